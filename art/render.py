@@ -1,9 +1,17 @@
-"""Renders the pictures: colouring pages to two-colour GIF, the rest to PNG, GIF or BMP as art/pictures.txt lists them."""
+"""Renders the pictures: colouring pages to two-colour GIF, the rest to PNG, GIF, BMP or ICO as art/pictures.txt lists them.
+
+A picture NAME is drawn from pictures/NAME.svg; if there is none, from the source without the size at the end of the name
+(pictogram512 from pictogram.svg). The rainbow is computed. The hot spots of the cursors are copied from pictures/cursors.txt.
+"""
+import colorsys
 import io
 import pathlib
+import re
+import shutil
 import subprocess
 import sys
 
+import numpy
 from PIL import Image
 
 HERE = pathlib.Path(__file__).resolve().parent
@@ -33,16 +41,63 @@ def page(svg):
     two.save(PAGES / (svg.stem + ".gif"), optimize=False)
 
 
-def picture(name, width, height, kind):
+def few_colours(image):
+    """At most 256 colours: every flat colour stays exactly as it was drawn, only the soft edges are rounded."""
+    rgb = on_white(image)
+    counted = sorted(rgb.getcolors(1 << 24), reverse=True)
+    if len(counted) > 256:
+        flat = [c for n, c in counted if n * 1500 > rgb.width * rgb.height][:96]
+        edges = numpy.array([c for _, c in counted if c not in set(flat)], dtype=numpy.uint8)
+        rest = Image.fromarray(edges[None]).quantize(256 - len(flat), method=Image.MEDIANCUT, dither=Image.NONE)
+        table = numpy.array(flat + [tuple(rest.getpalette()[i * 3:i * 3 + 3]) for i in range(256 - len(flat))])
+    else:
+        table = numpy.array([c for _, c in counted])
+    pixels = numpy.asarray(rgb).reshape(-1, 3).astype(int)
+    known, where = numpy.unique(pixels, axis=0, return_inverse=True)
+    nearest = ((known[:, None] - table[None]) ** 2).sum(2).argmin(1)
+    out = Image.fromarray(nearest[where].reshape(rgb.height, rgb.width).astype(numpy.uint8), "P")
+    out.putpalette(table.astype(numpy.uint8).tobytes())
+    return out
+
+
+def rainbow(width, height):
+    """White above, black below, the full colours half-way; hues 0 to 290 degrees from left to right."""
+    white, black = 4, 5
+    image = Image.new("RGBA", (width, height), (255, 255, 255, 255))
+    put = image.load()
+    rows = height - white - black
+    for x in range(width):
+        full = colorsys.hsv_to_rgb(290 / 360 * x / (width - 1), 1, 1)
+        for y in range(rows):
+            t = 2 * (y + 1) / (rows + 1)        # 0: white, 1: the full colour, 2: black
+            put[x, white + y] = tuple(round(255 * (c * t + 1 - t if t < 1 else c * (2 - t))) for c in full) + (255,)
+        for y in range(height - black, height):
+            put[x, y] = (0, 0, 0, 255)
+    return image
+
+
+def drawn(name, width, height):
+    """The picture of that name, drawn at its own size."""
+    if name == "regenboog":
+        return rainbow(width, height)
     svg = HERE / "pictures" / (name + ".svg")
-    image = rasterise(svg, width, height)
+    if not svg.exists():
+        svg = HERE / "pictures" / (re.sub(r"\d+$", "", name) + ".svg")
+    return rasterise(svg, width, height)
+
+
+def picture(name, width, height, kind):
     target = OUT / f"{name}.{kind}"
     if kind == "png":
-        image.save(target, optimize=True)
+        drawn(name, width, height).save(target, optimize=True)
     elif kind == "gif":
-        on_white(image).quantize(256, method=Image.MEDIANCUT, dither=Image.NONE).save(target)
+        few_colours(drawn(name, width, height)).save(target)
     elif kind == "bmp":
-        on_white(image).save(target)
+        on_white(drawn(name, width, height)).save(target)
+    elif kind == "ico":
+        sizes = [size for size in (16, 24, 32, 48, 64, 128, 256) if size <= width]
+        each = [drawn(f"{name}{size}", size, size) for size in sizes]
+        each[-1].save(target, sizes=[(size, size) for size in sizes], append_images=each[:-1])
     else:
         raise SystemExit(f"{name}: unknown kind {kind}")
 
@@ -53,6 +108,9 @@ def main(wanted):
     for svg in sorted((HERE / "pages").glob("[0-9][0-9].svg")):
         if not wanted or svg.stem in wanted:
             page(svg)
+    hot_spots = HERE / "pictures" / "cursors.txt"
+    if hot_spots.exists():
+        shutil.copyfile(hot_spots, OUT / "cursors.txt")
     listing = HERE / "pictures.txt"
     if not listing.exists():
         return
