@@ -1,0 +1,68 @@
+// What all controls share.
+#include "surface/control.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "surface/drawing.h"
+#include "surface/errors.h"
+#include "surface/form.h"
+#include "surface/numbers.h"
+
+namespace surface {
+
+namespace check {
+void length(const float& value) {
+  if (!(value >= 0 && std::isfinite(value)))
+    throw RuntimeError(ErrorKind::BadPropertyValue, "Invalid property value");
+}
+}  // namespace check
+
+Control::Control(Container& container, const Place& place, bool visible)
+    : Left(*this, static_cast<float>(place.Left / container.twipsPerUnit())),
+      Top(*this, static_cast<float>(place.Top / container.twipsPerUnit())),
+      Width(*this, static_cast<float>(place.Width / container.twipsPerUnit())),
+      Height(*this, static_cast<float>(place.Height / container.twipsPerUnit())),
+      Visible(*this, visible),
+      Enabled(*this, true),
+      ToolTipText(*this, {}),
+      container_(container) {
+  container.controls_.push_back(this);
+}
+
+Control::~Control() { std::erase(container_.controls_, this); }
+
+raster::Rect Control::pixelPlace() const {
+  const double scale = container_.twipsPerUnit() / TwipsPerPixel;
+  const auto pixels = [scale](float value) {
+    return static_cast<int>(roundEven(std::clamp(value * scale, -1e6, 1e6)));
+  };
+  const int left = pixels(Left), top = pixels(Top);
+  return {left, top, left + pixels(Width), top + pixels(Height)};
+}
+
+void Control::placeChanged() {
+  resized();
+  changed(Aspect::Place);
+}
+
+void Control::visibilityChanged() {
+  if (!windowless() && !peer_ && Visible) container_.form().controlShown(*this);
+  changed(Aspect::Visibility);
+}
+
+void Control::changed(Aspect aspect) {
+  if (!windowless()) {
+    if (peer_) peer_->update(aspect);
+    return;
+  }
+  const raster::Rect former = std::exchange(painted_, Visible ? paintedPixels() : raster::Rect{});
+  container_.repaintWindowless(unite(former, painted_));
+}
+
+void Control::SetFocus() {
+  if (peer_) peer_->focus();
+}
+
+}  // namespace surface

@@ -1,0 +1,109 @@
+// What all controls share: their place in a container, visibility, and the way to the widget that
+// shows them. The kinds stand in controls.h.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "surface/color.h"
+#include "surface/event.h"
+#include "surface/font.h"
+#include "surface/prop.h"
+
+namespace surface {
+
+class Control;
+class Form;
+
+/// What a change of a control touches on the screen.
+enum class Aspect { Place, Visibility, Enabled, Look, Value };
+
+/// The widget behind a control, made by the toolkit layer when the control is first seen.
+class Peer {
+ public:
+  virtual ~Peer() = default;
+  /// Takes over the control's properties of one aspect.
+  virtual void update(Aspect aspect) = 0;
+  virtual void focus() {}
+};
+
+/// What can hold controls: a form, a frame or a picture box. Its scale is the unit of its controls'
+/// places.
+class Container {
+ public:
+  virtual ~Container() = default;
+  virtual Form& form() = 0;
+  virtual double twipsPerUnit() const = 0;
+  /// Repaints a rectangle (pixels) in which a windowless control was or is.
+  virtual void repaintWindowless(const raster::Rect& area) = 0;
+
+  const std::vector<Control*>& controls() const { return controls_; }
+
+ private:
+  friend class Control;
+  std::vector<Control*> controls_;
+};
+
+namespace check {
+void length(const float& value);
+}  // namespace check
+
+class Control {
+ protected:
+  void placeChanged();
+  void visibilityChanged();
+  void enabledChanged() { changed(Aspect::Enabled); }
+  void lookChanged() { changed(Aspect::Look); }
+  void valueChanged() { changed(Aspect::Value); }
+  void unchanged() {}
+
+ public:
+  /// The place at design, twips.
+  struct Place {
+    float Left, Top, Width, Height;
+  };
+  Control(Container& container, const Place& place, bool visible);
+  virtual ~Control();
+  Control(const Control&) = delete;
+  Control& operator=(const Control&) = delete;
+
+  // In the scale of the container.
+  Prop<float, &Control::placeChanged> Left;
+  Prop<float, &Control::placeChanged> Top;
+  Prop<float, &Control::placeChanged, check::length> Width;
+  Prop<float, &Control::placeChanged, check::length> Height;
+  Prop<bool, &Control::visibilityChanged> Visible;
+  Prop<bool, &Control::enabledChanged> Enabled;
+  Prop<std::string, &Control::lookChanged> ToolTipText;
+  int Index = 0;  ///< within a control array
+
+  void SetFocus();
+
+  Container& container() const { return container_; }
+  /// Left, top, width, height in pixels within the container.
+  raster::Rect pixelPlace() const;
+  /// Lines and shapes have no widget: their container paints them above its image.
+  virtual bool windowless() const { return false; }
+  /// The pixels that a windowless control may paint.
+  virtual raster::Rect paintedPixels() const { return pixelPlace(); }
+  /// The container side of a control that holds others, or null.
+  virtual Container* asContainer() { return nullptr; }
+  /// What a screen reader says, if the text and the tooltip do not tell it.
+  std::string AccessibleName;
+
+  Peer* peer() const { return peer_.get(); }
+  void setPeer(std::unique_ptr<Peer> peer) { peer_ = std::move(peer); }
+
+ protected:
+  void changed(Aspect aspect);
+  /// Hook for surfaces: the size in pixels has changed. May throw to refuse it.
+  virtual void resized() {}
+
+ private:
+  Container& container_;
+  std::unique_ptr<Peer> peer_;
+  raster::Rect painted_;
+};
+
+}  // namespace surface

@@ -1,0 +1,250 @@
+// The kinds of control: their values at design, and what a change of a value sets off.
+#include "surface/controls.h"
+
+#include <algorithm>
+
+#include "surface/form.h"
+#include "surface/host.h"
+#include "surface/numbers.h"
+
+namespace surface {
+namespace {
+
+// A drop-down list's height follows from its font, not from its design.
+constexpr float ComboHeight = 315;
+
+}  // namespace
+
+CommandButton::CommandButton(Container& container, const Design& d)
+    : Control(container, {d.Left, d.Top, d.Width, d.Height}, d.Visible),
+      Caption(*this, d.Caption),
+      Picture(*this, d.Picture),
+      BackColor(*this, d.BackColor),
+      Font(*this, d.Font) {
+  ToolTipText.setQuietly(d.ToolTipText);
+  Enabled.setQuietly(d.Enabled);
+}
+
+Label::Label(Container& container, const Design& d)
+    : Control(container, {d.Left, d.Top, d.Width, d.Height}, d.Visible),
+      Caption(*this, d.Caption),
+      BackColor(*this, d.BackColor),
+      ForeColor(*this, d.ForeColor),
+      Font(*this, d.Font),
+      Centred(d.Centred) {
+  ToolTipText.setQuietly(d.ToolTipText);
+}
+
+TextBox::TextBox(Container& container, const Design& d)
+    : Control(container, {d.Left, d.Top, d.Width, d.Height}, d.Visible),
+      Text(*this, d.Text),
+      BackColor(*this, d.BackColor),
+      ForeColor(*this, d.ForeColor),
+      Font(*this, d.Font),
+      Locked(*this, d.Locked),
+      MaxLength(d.MaxLength),
+      Border(d.Border),
+      Centred(d.Centred),
+      MultiLine(d.MultiLine) {
+  ToolTipText.setQuietly(d.ToolTipText);
+}
+
+void TextBox::textChanged() {
+  valueChanged();
+  Change();
+}
+
+void TextBox::typed(const std::string& text) {
+  Text.setQuietly(text);
+  Change();
+}
+
+Frame::Frame(Container& container, const Design& d)
+    : Control(container, {d.Left, d.Top, d.Width, d.Height}, d.Visible),
+      Caption(*this, d.Caption),
+      BackColor(*this, d.BackColor),
+      Font(*this, d.Font) {}
+
+void Frame::repaintWindowless(const raster::Rect& area) {
+  if (auto* shown = static_cast<SurfacePeer*>(peer())) shown->showPixels(area, false);
+}
+
+CheckBox::CheckBox(Container& container, const Design& d)
+    : Control(container, {d.Left, d.Top, d.Width, d.Height}, d.Visible),
+      Value(*this, 0),
+      Caption(*this, d.Caption),
+      BackColor(*this, d.BackColor),
+      Font(*this, d.Font) {
+  ToolTipText.setQuietly(d.ToolTipText);
+}
+
+void CheckBox::ticked(const int& former) {
+  valueChanged();
+  if (Value != former) Click();
+}
+
+OptionButton::OptionButton(Container& container, const Design& d)
+    : Control(container, {d.Left, d.Top, d.Width, d.Height}, d.Visible),
+      Value(*this, d.Value),
+      Caption(*this, d.Caption),
+      BackColor(*this, d.BackColor),
+      Font(*this, d.Font) {
+  ToolTipText.setQuietly(d.ToolTipText);
+}
+
+void OptionButton::chosen(const bool& former) {
+  if (Value && !former) {
+    for (Control* other : container().controls())
+      if (auto* option = dynamic_cast<OptionButton*>(other);
+          option && option != this && option->Value)
+        option->Value = false;
+  }
+  valueChanged();
+  if (Value && !former) Click();
+}
+
+void OptionButton::clicked() {
+  if (Value)
+    Click();
+  else
+    Value = true;
+}
+
+ComboBox::ComboBox(Container& container, const Design& d)
+    : Control(container, {d.Left, d.Top, d.Width, ComboHeight}, d.Visible),
+      ListIndex(*this, d.ListIndex),
+      list_(d.List) {
+  ToolTipText.setQuietly(d.ToolTipText);
+}
+
+void ComboBox::selected(const int& former) {
+  if (ListIndex < -1 || ListIndex >= static_cast<int>(list_.size())) {
+    ListIndex.setQuietly(former);
+    throw RuntimeError(ErrorKind::BadPropertyValue, "Invalid property value");
+  }
+  valueChanged();
+  if (ListIndex != former) Click();
+}
+
+const std::string& ComboBox::Text() const {
+  static const std::string none;
+  return ListIndex < 0 ? none : list_[static_cast<std::size_t>(ListIndex)];
+}
+
+void ComboBox::picked(int row) {
+  ListIndex.setQuietly(row);
+  Click();
+}
+
+void ComboBox::AddItem(const std::string& text) {
+  list_.push_back(text);
+  changed(Aspect::Look);
+}
+
+HScrollBar::HScrollBar(Container& container, const Design& d)
+    : Control(container, {d.Left, d.Top, d.Width, d.Height}, d.Visible),
+      Value(*this, d.Value),
+      Min(d.Min),
+      Max(d.Max) {}
+
+void HScrollBar::moved(const int& former) {
+  if (Value < Min || Value > Max) {
+    Value.setQuietly(former);
+    throw RuntimeError(ErrorKind::BadPropertyValue, "Invalid property value");
+  }
+  valueChanged();
+  if (Value != former) Change();
+}
+
+Slider::Slider(Container& container, const Design& d)
+    : Control(container, {d.Left, d.Top, d.Width, d.Height}, d.Visible),
+      Value(*this, std::clamp(d.Value, d.Min, d.Max)),
+      Min(d.Min),
+      Max(d.Max),
+      BackColor(d.BackColor) {
+  ToolTipText.setQuietly(d.ToolTipText);
+}
+
+void Slider::moved() {
+  Value.setQuietly(std::clamp<int>(Value, Min, Max));
+  valueChanged();
+}
+
+void Slider::scrolled(int value) {
+  Value.setQuietly(std::clamp(value, Min, Max));
+  Scroll();
+}
+
+ProgressBar::ProgressBar(Container& container, const Design& d)
+    : Control(container, {d.Left, d.Top, d.Width, d.Height}, d.Visible),
+      Max(*this, 100),
+      Value(*this, 0) {}
+
+ImageControl::ImageControl(Container& container, const Design& d)
+    : Control(container, {d.Left, d.Top, d.Width, d.Height}, d.Visible),
+      Picture(*this, {}),
+      PictureName(d.Picture),
+      Border(d.Border) {
+  ToolTipText.setQuietly(d.ToolTipText);
+}
+
+LineControl::LineControl(Container& container, const Design& d)
+    : Control(container, {d.X1, d.Y1, 0, 0}, d.Visible),
+      X1(*this, static_cast<float>(d.X1 / container.twipsPerUnit())),
+      Y1(*this, static_cast<float>(d.Y1 / container.twipsPerUnit())),
+      X2(*this, static_cast<float>(d.X2 / container.twipsPerUnit())),
+      Y2(*this, static_cast<float>(d.Y2 / container.twipsPerUnit())),
+      BorderColor(*this, d.BorderColor),
+      BorderWidth(*this, d.BorderWidth) {}
+
+raster::Rect LineControl::paintedPixels() const {
+  const double scale = container().twipsPerUnit() / TwipsPerPixel;
+  const auto pixel = [scale](float value) { return static_cast<int>(roundEven(value * scale)); };
+  const auto [left, right] = std::minmax(pixel(X1), pixel(X2));
+  const auto [top, bottom] = std::minmax(pixel(Y1), pixel(Y2));
+  return {left - BorderWidth, top - BorderWidth, right + BorderWidth + 1, bottom + BorderWidth + 1};
+}
+
+ShapeControl::ShapeControl(Container& container, const Design& d)
+    : Control(container, {d.Left, d.Top, d.Width, d.Height}, d.Visible),
+      FillColor(*this, d.FillColor),
+      BorderColor(*this, d.BorderColor),
+      BorderWidth(*this, d.BorderWidth),
+      DrawMode(*this, 13),
+      Oval(d.Oval),
+      Filled(d.Filled) {}
+
+raster::Rect ShapeControl::paintedPixels() const {
+  const raster::Rect place = pixelPlace();
+  return {place.left - BorderWidth, place.top - BorderWidth, place.right + BorderWidth,
+          place.bottom + BorderWidth};
+}
+
+PictureBox::PictureBox(Container& container, const Design& d)
+    : Control(container, {d.Left, d.Top, d.Width, d.Height}, d.Visible),
+      DrawingSurface(d.BackColor, d.ScaleMode),
+      MousePointer(*this, d.MousePointer),
+      MouseIcon(*this, {}) {
+  AutoRedraw = d.AutoRedraw;
+  Font = d.Font;
+  ToolTipText.setQuietly(d.ToolTipText);
+  FillColor = d.FillColor;
+  resized();
+  if (!d.Picture.empty()) Picture.setQuietly(host().artPicture(d.Picture));
+}
+
+double PictureBox::twipsPerUnit() const {
+  if (ScaleMode() == ScalePixels) return TwipsPerPixel;
+  return ScaleMode() == ScaleCentimetres ? TwipsPerCentimetre : 1;
+}
+
+void PictureBox::resized() {
+  const raster::Rect place = pixelPlace();
+  setInnerSize(place.width(), place.height());
+}
+
+void PictureBox::showPixels(const raster::Rect& area, bool atOnce) {
+  if (auto* shown = static_cast<SurfacePeer*>(peer())) shown->showPixels(area, atOnce);
+}
+
+}  // namespace surface

@@ -1,0 +1,374 @@
+// The kinds of control, each with the properties and events that the program uses. Every kind has a
+// small struct of its values at design, so that a form's declarations read as its table.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "surface/control.h"
+#include "surface/drawing.h"
+
+namespace surface {
+
+/// The widget of what paints pixels itself: a surface or a frame.
+class SurfacePeer : public Peer {
+ public:
+  virtual void showPixels(const raster::Rect& area, bool atOnce) = 0;
+};
+
+/// A push button. A caption that is too long breaks at blanks; runs of blanks are kept, and `&`
+/// marks the access key.
+class CommandButton : public Control {
+ public:
+  struct Design {
+    float Left = 0, Top = 0, Width = 0, Height = 0;
+    std::string Caption = {};
+    std::string Picture = {};  ///< name of one of the program's own pictures
+    std::string ToolTipText = {};
+    Color BackColor = ButtonFace;
+    surface::Font Font = {};
+    bool Enabled = true, Visible = true;
+  };
+  CommandButton(Container& container, const Design& design);
+
+  Prop<std::string, &CommandButton::lookChanged> Caption;
+  Prop<std::string, &CommandButton::lookChanged> Picture;
+  Prop<Color, &CommandButton::lookChanged> BackColor;
+  Prop<surface::Font, &CommandButton::lookChanged> Font;
+  Event<> Click;
+  Event<Mouse> MouseUp;
+};
+
+/// A text that wraps within its width; runs of blanks are kept, since they break the lines.
+class Label : public Control {
+ public:
+  struct Design {
+    float Left = 0, Top = 0, Width = 0, Height = 0;
+    std::string Caption = {};
+    std::string ToolTipText = {};
+    Color BackColor = ButtonFace, ForeColor = Black;
+    surface::Font Font = {};
+    bool Centred = false, Visible = true;
+  };
+  Label(Container& container, const Design& design);
+
+  Prop<std::string, &Label::lookChanged> Caption;
+  Prop<Color, &Label::lookChanged> BackColor;
+  Prop<Color, &Label::lookChanged> ForeColor;
+  Prop<surface::Font, &Label::lookChanged> Font;
+  const bool Centred;
+  Event<> Click;
+};
+
+class TextBox : public Control {
+  void textChanged();
+
+ public:
+  struct Design {
+    float Left = 0, Top = 0, Width = 0, Height = 0;
+    std::string Text = {};
+    std::string ToolTipText = {};
+    Color BackColor = White, ForeColor = Black;
+    surface::Font Font = {};
+    int MaxLength = 0;  ///< characters, 0 = any number
+    bool Locked = false, Border = true, Centred = false, MultiLine = false, Visible = true;
+  };
+  TextBox(Container& container, const Design& design);
+
+  Prop<std::string, &TextBox::textChanged> Text;
+  Prop<Color, &TextBox::lookChanged> BackColor;
+  Prop<Color, &TextBox::lookChanged> ForeColor;
+  Prop<surface::Font, &TextBox::lookChanged> Font;
+  Prop<bool, &TextBox::lookChanged> Locked;
+  const int MaxLength;
+  const bool Border, Centred, MultiLine;
+  Event<> Change;
+
+  /// From the widget: the user has typed.
+  void typed(const std::string& text);
+};
+
+/// A box with a caption that hides or shows all it contains.
+class Frame : public Control, public Container {
+ public:
+  struct Design {
+    float Left = 0, Top = 0, Width = 0, Height = 0;
+    std::string Caption = {};
+    Color BackColor = ButtonFace;
+    surface::Font Font = {};
+    bool Visible = true;
+  };
+  Frame(Container& container, const Design& design);
+
+  Prop<std::string, &Frame::lookChanged> Caption;
+  Prop<Color, &Frame::lookChanged> BackColor;
+  Prop<surface::Font, &Frame::lookChanged> Font;
+
+  Form& form() override { return container().form(); }
+  double twipsPerUnit() const override { return 1; }
+  void repaintWindowless(const raster::Rect& area) override;
+  Container* asContainer() override { return this; }
+};
+
+/// A tick; a change of its Value fires Click, also by code.
+class CheckBox : public Control {
+  void ticked(const int& former);
+
+ public:
+  struct Design {
+    float Left = 0, Top = 0, Width = 0, Height = 0;
+    std::string Caption = {};
+    std::string ToolTipText = {};
+    Color BackColor = ButtonFace;
+    surface::Font Font = {};
+    bool Visible = true;
+  };
+  CheckBox(Container& container, const Design& design);
+
+  Prop<int, &CheckBox::ticked> Value;  ///< 0 or 1
+  Prop<std::string, &CheckBox::lookChanged> Caption;
+  Prop<Color, &CheckBox::lookChanged> BackColor;
+  Prop<surface::Font, &CheckBox::lookChanged> Font;
+  Event<> Click;
+};
+
+/// One of a choice within its container; becoming chosen fires Click, also by code.
+class OptionButton : public Control {
+  void chosen(const bool& former);
+
+ public:
+  struct Design {
+    float Left = 0, Top = 0, Width = 0, Height = 0;
+    std::string Caption = {};
+    bool Value = false;
+    std::string ToolTipText = {};
+    Color BackColor = ButtonFace;
+    surface::Font Font = {};
+    bool Visible = true;
+  };
+  OptionButton(Container& container, const Design& design);
+
+  Prop<bool, &OptionButton::chosen> Value;
+  Prop<std::string, &OptionButton::lookChanged> Caption;
+  Prop<Color, &OptionButton::lookChanged> BackColor;
+  Prop<surface::Font, &OptionButton::lookChanged> Font;
+  Event<> Click;
+
+  /// From the widget: the user has clicked, also on the one that is chosen already.
+  void clicked();
+};
+
+/// A drop-down list; selecting another row fires Click, also by code.
+class ComboBox : public Control {
+  void selected(const int& former);
+
+ public:
+  struct Design {
+    float Left = 0, Top = 0, Width = 0;
+    std::vector<std::string> List = {};
+    int ListIndex = -1;
+    std::string ToolTipText = {};
+    surface::Font Font = {};
+    bool Visible = true;
+  };
+  ComboBox(Container& container, const Design& design);
+
+  Prop<int, &ComboBox::selected>
+      ListIndex;  ///< -1 = none; beyond the list a BadPropertyValue error
+  Event<> Click;
+
+  /// The selected row, empty if none.
+  const std::string& Text() const;
+  const std::vector<std::string>& List() const { return list_; }
+  /// From the widget: the user has picked a row, also the one that was selected already.
+  void picked(int row);
+  void AddItem(const std::string& text);
+
+ private:
+  std::vector<std::string> list_;
+};
+
+class HScrollBar : public Control {
+  void moved(const int& former);
+
+ public:
+  struct Design {
+    float Left = 0, Top = 0, Width = 0, Height = 0;
+    int Min = 0, Max = 32767, Value = 0;
+    bool Visible = true;
+  };
+  HScrollBar(Container& container, const Design& design);
+
+  Prop<int, &HScrollBar::moved> Value;
+  const int Min, Max;
+  Event<> Change;
+};
+
+/// A knob on a line. Only the user's own move fires Scroll.
+class Slider : public Control {
+  void moved();
+
+ public:
+  struct Design {
+    float Left = 0, Top = 0, Width = 0, Height = 375;
+    int Min = 0, Max = 10, Value = 0;
+    std::string ToolTipText = {};
+    Color BackColor = ButtonFace;
+    bool Visible = true;
+  };
+  Slider(Container& container, const Design& design);
+
+  Prop<int, &Slider::moved> Value;  ///< a value outside Min..Max becomes the nearer end
+  const int Min, Max;
+  const Color BackColor;
+  Event<> Scroll;
+
+  /// From the widget: the user has moved the knob.
+  void scrolled(int value);
+};
+
+class ProgressBar : public Control {
+ public:
+  struct Design {
+    float Left = 0, Top = 0, Width = 0, Height = 0;
+    bool Visible = true;
+  };
+  ProgressBar(Container& container, const Design& design);
+
+  Prop<int, &ProgressBar::valueChanged> Max;
+  Prop<int, &ProgressBar::valueChanged> Value;
+};
+
+/// A picture stretched to its place, or a holder of a cursor.
+class ImageControl : public Control {
+ public:
+  struct Design {
+    float Left = 0, Top = 0, Width = 0, Height = 0;
+    std::string Picture = {};  ///< name of one of the program's own pictures
+    std::string ToolTipText = {};
+    bool Border = false, Visible = true;
+  };
+  ImageControl(Container& container, const Design& design);
+
+  Prop<surface::Picture, &ImageControl::lookChanged> Picture;
+  const std::string PictureName;  ///< of the design; a cursor is known by it
+  const bool Border;
+  Event<> Click;
+};
+
+/// A line above its container's image, not part of it.
+class LineControl : public Control {
+ public:
+  struct Design {
+    float X1 = 0, Y1 = 0, X2 = 0, Y2 = 0;  ///< twips
+    Color BorderColor = Black;
+    int BorderWidth = 1;
+    bool Visible = true;
+  };
+  LineControl(Container& container, const Design& design);
+
+  Prop<float, &LineControl::lookChanged> X1;
+  Prop<float, &LineControl::lookChanged> Y1;
+  Prop<float, &LineControl::lookChanged> X2;
+  Prop<float, &LineControl::lookChanged> Y2;
+  Prop<Color, &LineControl::lookChanged> BorderColor;
+  Prop<int, &LineControl::lookChanged> BorderWidth;
+
+  bool windowless() const override { return true; }
+  raster::Rect paintedPixels() const override;
+};
+
+/// A rectangle or oval above its container's image, not part of it.
+class ShapeControl : public Control {
+ public:
+  struct Design {
+    float Left = 0, Top = 0, Width = 0, Height = 0;
+    bool Oval = false, Filled = false;
+    Color FillColor = Black, BorderColor = Black;
+    int BorderWidth = 1;
+    bool Visible = true;
+  };
+  ShapeControl(Container& container, const Design& design);
+
+  Prop<Color, &ShapeControl::lookChanged, check::color> FillColor;
+  Prop<Color, &ShapeControl::lookChanged> BorderColor;
+  Prop<int, &ShapeControl::lookChanged> BorderWidth;
+  Prop<int, &ShapeControl::lookChanged> DrawMode;
+  const bool Oval, Filled;
+
+  bool windowless() const override { return true; }
+  raster::Rect paintedPixels() const override;
+};
+
+/// The pointer over a surface: 0 default, 2 cross, 3 I-beam, 11 hourglass, 99 the MouseIcon.
+enum Pointer {
+  PointerDefault = 0,
+  PointerCross = 2,
+  PointerText = 3,
+  PointerHourglass = 11,
+  PointerCustom = 99
+};
+
+/// A raster surface that keeps what is drawn on it.
+class PictureBox : public Control, public DrawingSurface, public Container {
+  void pointerChanged() { changed(Aspect::Look); }
+
+ public:
+  struct Design {
+    float Left = 0, Top = 0, Width = 0, Height = 0;
+    ScaleUnit ScaleMode = ScaleTwips;
+    bool AutoRedraw = false;
+    std::string Picture = {};  ///< name of one of the program's own pictures
+    std::string ToolTipText = {};
+    Color BackColor = ButtonFace, FillColor = Black;
+    surface::Font Font = {};
+    int MousePointer = PointerDefault;
+    bool Visible = true;
+  };
+  PictureBox(Container& container, const Design& design);
+
+  Prop<int, &PictureBox::pointerChanged> MousePointer;
+  /// The name of the cursor shown at 99: assign a cursor image's PictureName.
+  Prop<std::string, &PictureBox::pointerChanged> MouseIcon;
+  Event<> Click;
+  Event<Mouse> MouseDown, MouseMove, MouseUp;
+
+  Form& form() override { return Control::container().form(); }
+  double twipsPerUnit() const override;
+  void repaintWindowless(const raster::Rect& area) override { damage(area); }
+  Container* asContainer() override { return this; }
+
+ protected:
+  void resized() override;
+  void showPixels(const raster::Rect& area, bool atOnce) override;
+};
+
+/// Controls with one name, told apart by an Index from 0; one handler serves all.
+template <class Kind, std::size_t Count>
+class ControlArray {
+ public:
+  explicit ControlArray(Container& container,
+                        const std::array<typename Kind::Design, Count>& designs) {
+    for (std::size_t i = 0; i < Count; ++i) {
+      members_[i] = std::make_unique<Kind>(container, designs[i]);
+      members_[i]->Index = static_cast<int>(i);
+    }
+  }
+
+  /// The member of an index; outside the array a subscript error.
+  Kind& operator()(int index) {
+    if (index < 0 || index >= static_cast<int>(Count))
+      throw RuntimeError(ErrorKind::SubscriptOutOfRange, "Subscript out of range");
+    return *members_[static_cast<std::size_t>(index)];
+  }
+  static constexpr int count() { return static_cast<int>(Count); }
+
+ private:
+  std::array<std::unique_ptr<Kind>, Count> members_;
+};
+
+}  // namespace surface

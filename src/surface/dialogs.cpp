@@ -1,0 +1,36 @@
+// Dialogs: thin routines in front of the seams, which keep the rules of cancelling.
+#include "surface/dialogs.h"
+
+#include "surface/errors.h"
+#include "surface/host.h"
+
+namespace surface {
+
+int MsgBox(const std::string& text, int buttons, const std::string& title) {
+  return host().msgBox(text, buttons, title);
+}
+
+std::string InputBox(const std::string& prompt, const std::string& title,
+                     const std::string& initial) {
+  return host().inputBox(prompt, title, initial).value_or("");
+}
+
+void CommonDialog::cancelled() const {
+  if (CancelError) throw RuntimeError(ErrorKind::Cancelled, "Cancel was selected");
+}
+
+void CommonDialog::showFiles(bool save) {
+  if (const auto chosen = host().fileDialog({save, Filter, FilterIndex}))
+    FileName = *chosen;
+  else
+    cancelled();
+}
+
+void CommonDialog::ShowColor() {
+  if (const auto chosen = host().colorDialog(Color, Flags))
+    Color = *chosen;
+  else
+    cancelled();
+}
+
+}  // namespace surface

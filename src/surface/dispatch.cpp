@@ -1,0 +1,88 @@
+// The event dispatcher, the only place where every exception is caught: beyond it lies the toolkit,
+// which must never see one.
+#include "surface/dispatch.h"
+
+#include <utility>
+#include <vector>
+
+#include "surface/errors.h"
+#include "surface/host.h"
+
+namespace surface {
+namespace {
+
+struct ProgramEnd {};
+
+bool hasEnded = false;
+std::vector<std::function<void()>> postponed;
+std::vector<std::function<void()>> repaints;
+
+// An action may put off another one.
+void runAll(std::vector<std::function<void()>>& list) {
+  while (!list.empty()) {
+    const auto actions = std::exchange(list, {});
+    for (const auto& action : actions) action();
+  }
+}
+
+void finishProgram() {
+  hasEnded = true;
+  if (host().leaveEventLoop) host().leaveEventLoop();
+}
+
+void failProgram(const std::string& text) {
+  if (host().errorReport) host().errorReport(text);
+  finishProgram();
+}
+
+}  // namespace
+
+int HandlerScope::depth_ = 0;
+
+void HandlerScope::finish() {
+  runAll(repaints);
+  runAll(postponed);
+}
+
+void whenHandlersReturned(std::function<void()> action) {
+  if (HandlerScope::running())
+    postponed.push_back(std::move(action));
+  else
+    action();
+}
+
+void whenIdle(std::function<void()> action) {
+  if (HandlerScope::running())
+    repaints.push_back(std::move(action));
+  else
+    action();
+}
+
+void showPending() { runAll(repaints); }
+
+void dispatch(const std::function<void()>& handler) {
+  if (hasEnded) return;
+  try {
+    HandlerScope scope;
+    handler();
+    showPending();
+  } catch (const ProgramEnd&) {
+    finishProgram();
+  } catch (const RuntimeError& error) {
+    failProgram(error.what());
+  } catch (const std::exception& error) {
+    failProgram(error.what());
+  } catch (...) {
+    failProgram("Unexpected error");
+  }
+}
+
+void End() {
+  hasEnded = true;
+  throw ProgramEnd{};
+}
+
+bool ended() { return hasEnded; }
+void restart() { hasEnded = false; }
+
+}  // namespace surface

@@ -1,0 +1,277 @@
+// The drawing operations: from a surface's own scale to pixels, and onto its persistent bitmap.
+#include "surface/drawing.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "surface/dispatch.h"
+#include "surface/host.h"
+#include "surface/numbers.h"
+
+namespace surface {
+namespace {
+
+// Far beyond any sheet, and what the raster takes: a coordinate out here is as good as any further
+// one.
+constexpr double CoordinateLimit = 32767;
+constexpr int LargestSide = 32767;
+constexpr std::int64_t MostPixels = 64'000'000;
+
+int toCoordinate(double value) {
+  if (std::isnan(value)) throw RuntimeError(ErrorKind::Overflow, "Overflow");
+  return static_cast<int>(roundEven(std::clamp(value, -CoordinateLimit, CoordinateLimit)));
+}
+
+double twipsPerUnit(ScaleUnit unit) {
+  switch (unit) {
+    case ScalePixels:
+      return TwipsPerPixel;
+    case ScaleCentimetres:
+      return TwipsPerCentimetre;
+    default:
+      return 1;
+  }
+}
+
+void refuseUnless(bool good) {
+  if (!good) throw RuntimeError(ErrorKind::BadPropertyValue, "Invalid property value");
+}
+
+}  // namespace
+
+namespace check {
+void drawWidth(const int& value) { refuseUnless(value >= 1 && value <= 32767); }
+void drawStyle(const int& value) { refuseUnless(value >= 0 && value <= 6); }
+void drawMode(const int& value) { refuseUnless(value >= 1 && value <= 16); }
+void fillStyle(const int& value) { refuseUnless(value >= 0 && value <= 7); }
+void color(const Color& value) { refuseUnless(value != NoColor); }
+}  // namespace check
+
+float ScaleX(float value, ScaleUnit from, ScaleUnit to) {
+  return static_cast<float>(value * twipsPerUnit(from) / twipsPerUnit(to));
+}
+float ScaleY(float value, ScaleUnit from, ScaleUnit to) { return ScaleX(value, from, to); }
+
+DrawingSurface::DrawingSurface(Color backColor, ScaleUnit scaleMode)
+    : BackColor(*this, backColor),
+      Picture(*this, {}),
+      ForeColor(*this, Black),
+      FillColor(*this, Black),
+      FillStyle(*this, 1),
+      DrawWidth(*this, 1),
+      DrawStyle(*this, 0),
+      DrawMode(*this, 13),
+      scaleMode_(scaleMode),
+      alive_(std::make_shared<bool>(true)) {}
+
+DrawingSurface::~DrawingSurface() = default;
+
+double DrawingSurface::pixelsPerUnitX() const {
+  if (scaleMode_ == ScaleUser) return inner_.width() / static_cast<double>(userExtent_.Width);
+  return twipsPerUnit(scaleMode_) / TwipsPerPixel;
+}
+
+double DrawingSurface::pixelsPerUnitY() const {
+  if (scaleMode_ == ScaleUser) return inner_.height() / static_cast<double>(userExtent_.Height);
+  return twipsPerUnit(scaleMode_) / TwipsPerPixel;
+}
+
+float DrawingSurface::ScaleWidth() const {
+  return scaleMode_ == ScaleUser ? userExtent_.Width
+                                 : static_cast<float>(inner_.width() / pixelsPerUnitX());
+}
+
+float DrawingSurface::ScaleHeight() const {
+  return scaleMode_ == ScaleUser ? userExtent_.Height
+                                 : static_cast<float>(inner_.height() / pixelsPerUnitY());
+}
+
+void DrawingSurface::setUserScale(PointF origin, SizeF extent) {
+  refuseUnless(extent.Width != 0 && extent.Height != 0);
+  scaleMode_ = ScaleUser;
+  userOrigin_ = origin;
+  userExtent_ = extent;
+}
+
+DrawingSurface::Pixels DrawingSurface::pixelsOf(PointF at) const {
+  if (scaleMode_ == ScalePixels) return {toCoordinate(at.X), toCoordinate(at.Y)};
+  return {toCoordinate((at.X - userOrigin_.X) * pixelsPerUnitX()),
+          toCoordinate((at.Y - userOrigin_.Y) * pixelsPerUnitY())};
+}
+
+PointF DrawingSurface::toScale(int pixelX, int pixelY) const {
+  return {static_cast<float>(pixelX / pixelsPerUnitX() + userOrigin_.X),
+          static_cast<float>(pixelY / pixelsPerUnitY() + userOrigin_.Y)};
+}
+
+raster::Pen DrawingSurface::pen(Color color) const {
+  const auto style = DrawStyle == 5   ? raster::PenStyle::Null
+                     : DrawStyle == 2 ? raster::PenStyle::Dotted
+                                      : raster::PenStyle::Solid;
+  return {style, std::min<int>(DrawWidth, 200), toPixel(color)};
+}
+
+raster::Brush DrawingSurface::brush() const {
+  using raster::BrushStyle;
+  static constexpr BrushStyle styles[] = {BrushStyle::Solid,           BrushStyle::Null,
+                                          BrushStyle::Horizontal,      BrushStyle::Vertical,
+                                          BrushStyle::ForwardDiagonal, BrushStyle::BackwardDiagonal,
+                                          BrushStyle::Cross,           BrushStyle::DiagonalCross};
+  return {styles[FillStyle], toPixel(FillColor)};
+}
+
+void DrawingSurface::Line(PointF from, PointF to, std::optional<Color> color, BoxFlag flag) {
+  CurrentX = to.X;
+  CurrentY = to.Y;
+  const Color ink = color.value_or(ForeColor);
+  if (ink == NoColor) return;
+  const Pixels a = pixelsOf(from), b = pixelsOf(to);
+  switch (flag) {
+    case BoxFlag::None:
+      damage(raster::line(target(), pen(ink), a.x, a.y, b.x, b.y));
+      break;
+    case BoxFlag::B:
+      damage(raster::box(target(), pen(ink), brush(), a.x, a.y, b.x, b.y));
+      break;
+    case BoxFlag::BF:
+      damage(raster::filledBox(target(), pen(ink), a.x, a.y, b.x, b.y));
+      break;
+  }
+}
+
+void DrawingSurface::Circle(PointF centre, float radius, std::optional<Color> color, float aspect) {
+  refuseUnless(radius >= 0 && aspect >= 0 && std::isfinite(radius) && std::isfinite(aspect));
+  CurrentX = centre.X;
+  CurrentY = centre.Y;
+  const Color ink = color.value_or(ForeColor);
+  if (ink == NoColor) return;
+  double rx = radius * std::abs(pixelsPerUnitX());
+  double ry = rx;
+  // A circle keeps the fraction of its radius, so that concentric ones half a pixel apart close to
+  // a disc; an ellipse meets whole pixels at its four ends.
+  if (aspect != 1) {
+    rx = roundEven(aspect > 1 ? rx / aspect : rx);
+    ry = roundEven(aspect > 1 ? ry : ry * aspect);
+  }
+  const Pixels c = pixelsOf(centre);
+  damage(raster::ellipse(target(), pen(ink), brush(), c.x, c.y, std::min(rx, CoordinateLimit),
+                         std::min(ry, CoordinateLimit)));
+}
+
+void DrawingSurface::PSet(PointF at, std::optional<Color> color) {
+  CurrentX = at.X;
+  CurrentY = at.Y;
+  const Color ink = color.value_or(ForeColor);
+  if (ink == NoColor) return;
+  const Pixels p = pixelsOf(at);
+  damage(raster::dot(target(), pen(ink), p.x, p.y));
+}
+
+Color DrawingSurface::Point(PointF at) const {
+  const Pixels p = pixelsOf(at);
+  const auto pixels = bitmap();
+  return pixels->contains(p.x, p.y) ? toColor(pixels->at(p.x, p.y)) : NoColor;
+}
+
+void DrawingSurface::Cls() {
+  CurrentX = userOrigin_.X;
+  CurrentY = userOrigin_.Y;
+  erase();
+}
+
+void DrawingSurface::PaintPicture(const surface::Picture& picture, PointF to,
+                                  std::optional<SizeF> size, std::optional<raster::Rect> source) {
+  if (picture.empty()) throw RuntimeError(ErrorKind::BadPropertyValue, "Invalid picture");
+  const raster::Rect from = source.value_or(picture.bitmap()->bounds());
+  const Pixels p = pixelsOf(to);
+  if (!size) {
+    damage(raster::blit(writableBitmap(), p.x, p.y, from.width(), from.height(), *picture.bitmap(),
+                        from.left, from.top));
+    return;
+  }
+  const int width = toCoordinate(size->Width * pixelsPerUnitX());
+  const int height = toCoordinate(size->Height * pixelsPerUnitY());
+  damage(raster::stretch(writableBitmap(), p.x, p.y, width, height, *picture.bitmap(), from.left,
+                         from.top, from.width(), from.height()));
+}
+
+void DrawingSurface::Print(const std::string& text) {
+  const TextMask mask = host().rasterText(Font, text);
+  const Pixels origin = pixelsOf({CurrentX, CurrentY});
+  const raster::Target onto = target();
+  const raster::Pen ink{raster::PenStyle::Solid, 1, toPixel(ForeColor)};
+  raster::Rect changed;
+  for (int y = 0; y < mask.height; ++y)
+    for (int x = 0; x < mask.width; ++x)
+      if (mask.dots[static_cast<std::size_t>(y) * mask.width + x])
+        changed = unite(changed,
+                        raster::dot(onto, ink, origin.x + mask.left + x, origin.y + mask.top + y));
+  damage(changed);
+  CurrentX = userOrigin_.X;
+  CurrentY += static_cast<float>(mask.lineHeight / pixelsPerUnitY());
+}
+
+void DrawingSurface::Refresh() { showPixels(inner_, true); }
+
+surface::Picture DrawingSurface::Image() const { return surface::Picture(bitmap()); }
+
+std::shared_ptr<const raster::Bitmap> DrawingSurface::bitmap() const {
+  if (!bitmap_) bitmap_ = composed();
+  return bitmap_;
+}
+
+raster::Bitmap& DrawingSurface::writableBitmap() {
+  if (!bitmap_) bitmap_ = composed();
+  if (bitmap_.use_count() > 1) bitmap_ = std::make_shared<raster::Bitmap>(*bitmap_);
+  // Only this surface holds the bitmap now, and every bitmap is made writable.
+  return const_cast<raster::Bitmap&>(*bitmap_);
+}
+
+std::shared_ptr<const raster::Bitmap> DrawingSurface::composed() const {
+  const auto& stored = Picture->bitmap();
+  if (stored && stored->bounds() == inner_) return stored;
+  auto fresh =
+      std::make_shared<raster::Bitmap>(inner_.width(), inner_.height(), toPixel(BackColor));
+  if (stored) raster::blit(*fresh, 0, 0, stored->width(), stored->height(), *stored, 0, 0);
+  return fresh;
+}
+
+void DrawingSurface::erase() {
+  bitmap_.reset();
+  damage(inner_);
+}
+
+void DrawingSurface::setInnerSize(int width, int height) {
+  width = std::max(width, 0);
+  height = std::max(height, 0);
+  if (width == inner_.width() && height == inner_.height()) return;
+  if (width > LargestSide || height > LargestSide ||
+      static_cast<std::int64_t>(width) * height > MostPixels)
+    throw RuntimeError(ErrorKind::OutOfMemory, "Out of memory");
+  // Before anything was drawn or stored there is nothing to keep.
+  const auto former = bitmap_ || !Picture->empty() ? bitmap() : nullptr;
+  inner_ = {0, 0, width, height};
+  if (former) {
+    auto resized = std::make_shared<raster::Bitmap>(width, height, toPixel(BackColor));
+    raster::blit(*resized, 0, 0, former->width(), former->height(), *former, 0, 0);
+    bitmap_ = std::move(resized);
+  }
+  damage(inner_);
+}
+
+void DrawingSurface::damage(const raster::Rect& area) {
+  if (area.empty()) return;
+  const bool first = damage_.empty();
+  damage_ = unite(damage_, area);
+  if (!first) return;
+  whenIdle([this, alive = std::weak_ptr<bool>(alive_)] {
+    if (!alive.expired()) showDamage();
+  });
+}
+
+void DrawingSurface::showDamage() {
+  const raster::Rect area = std::exchange(damage_, {});
+  showPixels(area, false);
+}
+
+}  // namespace surface

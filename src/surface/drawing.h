@@ -1,0 +1,162 @@
+// What can be drawn on: the persistent bitmap of a picture box or form with its pen and brush, and
+// the operations that paint on it.
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "surface/color.h"
+#include "surface/errors.h"
+#include "surface/font.h"
+#include "surface/picture.h"
+#include "surface/prop.h"
+#include "surface/raster/bitmap.h"
+#include "surface/raster/draw.h"
+
+namespace surface {
+
+inline constexpr double TwipsPerPixel = 15;
+inline constexpr double TwipsPerCentimetre = 1440 / 2.54;
+
+/// The unit of a surface's coordinates: user scale, twips, pixels or centimetres.
+enum ScaleUnit { ScaleUser = 0, ScaleTwips = 1, ScalePixels = 3, ScaleCentimetres = 7 };
+
+/// A length converted from one unit to another, in single precision; both directions have square
+/// pixels.
+float ScaleX(float value, ScaleUnit from, ScaleUnit to);
+float ScaleY(float value, ScaleUnit from, ScaleUnit to);
+
+struct PointF {
+  float X = 0;
+  float Y = 0;
+};
+
+struct SizeF {
+  float Width = 0;
+  float Height = 0;
+};
+
+/// `B` a box in outline with the brush inside, `BF` a box filled with the line's colour.
+enum class BoxFlag { None, B, BF };
+inline constexpr BoxFlag B = BoxFlag::B;
+inline constexpr BoxFlag BF = BoxFlag::BF;
+
+class DrawingSurface;
+
+/// A handle of a surface's persistent bitmap for the calls of gdi.h, which count in pixels whatever
+/// the scale.
+struct DeviceContext {
+  DrawingSurface* surface;
+};
+
+namespace check {
+void drawWidth(const int& value);
+void drawStyle(const int& value);
+void drawMode(const int& value);
+void fillStyle(const int& value);
+void color(const Color& value);
+}  // namespace check
+
+class DrawingSurface {
+ protected:
+  void backColorChanged() { erase(); }
+  void pictureChanged() { erase(); }
+  void unchanged() {}
+
+ public:
+  DrawingSurface(Color backColor, ScaleUnit scaleMode);
+  virtual ~DrawingSurface();
+  DrawingSurface(const DrawingSurface&) = delete;
+  DrawingSurface& operator=(const DrawingSurface&) = delete;
+
+  /// Assigning it erases everything drawn; only the Picture shows through again.
+  Prop<Color, &DrawingSurface::backColorChanged, check::color> BackColor;
+  /// The stored picture, kept whole at its own size. Assigning it replaces all that the surface
+  /// shows.
+  Prop<surface::Picture, &DrawingSurface::pictureChanged> Picture;
+  Prop<Color, &DrawingSurface::unchanged, check::color> ForeColor;
+  Prop<Color, &DrawingSurface::unchanged, check::color> FillColor;
+  Prop<int, &DrawingSurface::unchanged, check::fillStyle>
+      FillStyle;  ///< 0 solid, 1 transparent, 2..7 hatches
+  Prop<int, &DrawingSurface::unchanged, check::drawWidth> DrawWidth;  ///< pixels, 1 and up
+  Prop<int, &DrawingSurface::unchanged, check::drawStyle>
+      DrawStyle;  ///< 0 solid, 2 dotted, 5 nothing
+  Prop<int, &DrawingSurface::unchanged, check::drawMode> DrawMode;  ///< 1..16, 13 copies, 6 inverts
+  bool AutoRedraw = false;
+  surface::Font Font;
+  float CurrentX = 0;
+  float CurrentY = 0;
+
+  /// The inner size in the surface's own unit.
+  float ScaleWidth() const;
+  float ScaleHeight() const;
+  ScaleUnit ScaleMode() const { return scaleMode_; }
+  /// Switches to a scale of the program's own: the upper left corner and the extent of the inner
+  /// area.
+  void setUserScale(PointF origin, SizeF extent);
+
+  /// Without a colour the ForeColor; a colour that is none (-1) paints nothing.
+  void Line(PointF from, PointF to, std::optional<Color> color = {}, BoxFlag flag = BoxFlag::None);
+  /// Aspect is height over width; the radius is the longer half axis.
+  void Circle(PointF centre, float radius, std::optional<Color> color = {}, float aspect = 1);
+  void PSet(PointF at, std::optional<Color> color = {});
+  /// The colour at a position, NoColor (-1) outside.
+  Color Point(PointF at) const;
+  /// Clears what was drawn; the Picture shows again.
+  void Cls();
+  /// Draws a picture's part (pixels; all of it if left out) at a position, scaled to `size` in the
+  /// surface's unit if given.
+  void PaintPicture(const surface::Picture& picture, PointF to, std::optional<SizeF> size = {},
+                    std::optional<raster::Rect> source = {});
+  /// Writes the text at CurrentX, CurrentY and moves to the start of the next line.
+  void Print(const std::string& text);
+  /// Shows the bitmap on the screen at once.
+  void Refresh();
+  /// A snapshot of the persistent bitmap.
+  surface::Picture Image() const;
+  DeviceContext hDC() { return {this}; }
+
+  // For gdi.h and the toolkit layer: pixels.
+  std::shared_ptr<const raster::Bitmap> bitmap() const;
+  /// Whether the surface shows anything but its BackColor; until then it holds no bitmap.
+  bool blank() const { return !bitmap_ && Picture->empty(); }
+  raster::Bitmap& writableBitmap();
+  raster::Brush brush() const;
+  raster::Target target() { return {writableBitmap(), DrawMode}; }
+  /// Tells that a rectangle of pixels has changed; it is shown when the thread is next idle.
+  void damage(const raster::Rect& area);
+  PointF toScale(int pixelX, int pixelY) const;
+  const raster::Rect& innerPixels() const { return inner_; }
+
+ protected:
+  /// Sets the inner size in pixels: what is drawn stays, new area shows the BackColor. OutOfMemory
+  /// beyond 32767 a side or 64 million pixels in all; the size is then as before.
+  void setInnerSize(int width, int height);
+  /// Asks the screen to show a rectangle of pixels, now or when idle.
+  virtual void showPixels(const raster::Rect& area, bool atOnce) = 0;
+
+ private:
+  struct Pixels {
+    int x, y;
+  };
+  void erase();
+  std::shared_ptr<const raster::Bitmap> composed() const;
+  Pixels pixelsOf(PointF at) const;
+  double pixelsPerUnitX() const;
+  double pixelsPerUnitY() const;
+  raster::Pen pen(Color color) const;
+  void showDamage();
+
+  ScaleUnit scaleMode_;
+  raster::Rect inner_;
+  PointF userOrigin_;
+  SizeF userExtent_;
+  /// The persistent bitmap, made when it is first needed: until something is drawn, BackColor and
+  /// Picture say it all. Shared with snapshots; copied at the first write after one.
+  mutable std::shared_ptr<const raster::Bitmap> bitmap_;
+  raster::Rect damage_;
+  std::shared_ptr<bool> alive_;
+};
+
+}  // namespace surface

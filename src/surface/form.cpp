@@ -1,0 +1,124 @@
+// The life of forms: loaded on first use, shown, hidden, unloaded; destroyed only when no handler
+// of theirs can be running.
+#include "surface/form.h"
+
+#include <algorithm>
+
+#include "surface/host.h"
+#include "surface/numbers.h"
+
+namespace surface {
+namespace {
+
+constexpr float FrameWidth = 120;
+constexpr float FrameHeight = 330;
+
+int innerPixel(float outer, float frame) {
+  return static_cast<int>(roundEven(std::clamp((outer - frame) / TwipsPerPixel, 1.0, 32767.0)));
+}
+
+}  // namespace
+
+Form::Form(const Design& design)
+    : DrawingSurface(design.BackColor, design.ScaleMode),
+      Caption(*this, design.Caption),
+      MousePointer(*this, 0),
+      Left(*this, 0),
+      Top(*this, 0),
+      Width(*this, design.Width + FrameWidth),
+      Height(*this, design.Height + FrameHeight),
+      Maximised(design.Maximised),
+      Centred(design.Centred),
+      Frame(design.Frame) {
+  setInnerSize(innerPixel(Width, FrameWidth), innerPixel(Height, FrameHeight));
+}
+
+Form::~Form() = default;
+
+void Form::placeChanged() {
+  placed_ = true;
+  setInnerSize(innerPixel(Width, FrameWidth), innerPixel(Height, FrameHeight));
+  windowChanged();
+}
+
+void Form::Show() {
+  if (!peer_) peer_ = host().makeForm(*this);
+  shown_ = true;
+  peer_->show();
+}
+
+void Form::Hide() {
+  shown_ = false;
+  if (peer_) peer_->hide();
+}
+
+void Form::setTopMost() {
+  topMost_ = true;
+  windowChanged();
+}
+
+void Form::controlShown(Control& control) {
+  if (peer_) peer_->addControl(control);
+}
+
+void Form::windowResized(int width, int height) { setInnerSize(width, height); }
+
+void Form::closeBoxPressed() {
+  HandlerScope scope;
+  if (CloseBox.handled())
+    CloseBox();
+  else
+    Unload(*this);
+  auto& registry = FormRegistry::instance();
+  if (!registry.anyVisible() && registry.noWindowLeft) registry.noWindowLeft();
+}
+
+void Form::showPixels(const raster::Rect& area, bool atOnce) {
+  if (peer_) peer_->showPixels(area, atOnce);
+}
+
+FormRegistry& FormRegistry::instance() {
+  static FormRegistry theRegistry;
+  return theRegistry;
+}
+
+Form& FormRegistry::load(std::unique_ptr<Form> form, std::type_index type, bool asDefault) {
+  Form& loaded = *forms_.emplace_back(std::move(form));
+  // Known before its Load runs, since that may refer to the form by its name.
+  if (asDefault) defaults_.push_back({type, &loaded});
+  loaded.Load();
+  return loaded;
+}
+
+Form* FormRegistry::defaultInstance(std::type_index type) const {
+  for (const Default& entry : defaults_)
+    if (entry.type == type) return entry.form;
+  return nullptr;
+}
+
+void FormRegistry::unload(Form& form) {
+  const auto found = std::find_if(forms_.begin(), forms_.end(),
+                                  [&](const auto& owned) { return owned.get() == &form; });
+  // Unloading twice in one handler is harmless.
+  if (found == forms_.end()) return;
+  form.FormUnload();
+  form.Hide();
+  std::erase_if(defaults_, [&](const Default& entry) { return entry.form == &form; });
+  const auto again = std::find_if(forms_.begin(), forms_.end(),
+                                  [&](const auto& owned) { return owned.get() == &form; });
+  if (again == forms_.end()) return;
+  std::shared_ptr<Form> doomed = std::move(*again);
+  forms_.erase(again);
+  whenHandlersReturned([doomed] {});
+}
+
+void FormRegistry::clear() {
+  defaults_.clear();
+  while (!forms_.empty()) forms_.pop_back();
+}
+
+bool FormRegistry::anyVisible() const {
+  return std::any_of(forms_.begin(), forms_.end(), [](const auto& form) { return form->shown(); });
+}
+
+}  // namespace surface

@@ -1,0 +1,156 @@
+// Windows with their controls and their life: the default instance that comes into being on first
+// use, new instances, showing, hiding, unloading.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <typeindex>
+#include <utility>
+#include <vector>
+
+#include "surface/control.h"
+#include "surface/drawing.h"
+#include "surface/event.h"
+
+namespace surface {
+
+/// A form's window, made by the toolkit layer at the first Show.
+class FormPeer {
+ public:
+  virtual ~FormPeer() = default;
+  virtual void show() = 0;
+  virtual void hide() = 0;
+  /// Makes the widget of a control that has become visible.
+  virtual void addControl(Control& control) = 0;
+  /// Caption, colour, pointer, place or top-most state has changed.
+  virtual void update() = 0;
+  virtual void showPixels(const raster::Rect& area, bool atOnce) = 0;
+};
+
+class Form : public DrawingSurface, public Container {
+  void windowChanged() {
+    if (peer_) peer_->update();
+  }
+  void placeChanged();
+
+ public:
+  enum class Border { Sizable, Fixed, Tool };
+  struct Design {
+    std::string Caption = {};
+    Color BackColor = ButtonFace;
+    float Width = 12000, Height = 9000;  ///< inner size at design, twips
+    bool Maximised = false, Centred = false;
+    Border Frame = Border::Sizable;
+    ScaleUnit ScaleMode = ScaleTwips;
+  };
+  explicit Form(const Design& design);
+  ~Form() override;
+
+  Prop<std::string, &Form::windowChanged> Caption;
+  Prop<int, &Form::windowChanged> MousePointer;
+  // The outer place in twips: the inner size plus a fixed frame of 120 by 330 twips, whatever the
+  // desktop really draws.
+  Prop<float, &Form::placeChanged> Left;
+  Prop<float, &Form::placeChanged> Top;
+  Prop<float, &Form::placeChanged, check::length> Width;
+  Prop<float, &Form::placeChanged, check::length> Height;
+  const bool Maximised, Centred;
+  const Border Frame;
+
+  Event<> Load;
+  Event<> FormUnload;
+  Event<Mouse> MouseUp;
+  /// The window's close box; without a handler it unloads the form.
+  Event<> CloseBox;
+
+  void Show();
+  void Hide();
+  bool shown() const { return shown_; }
+  /// Keeps the window above all others.
+  void setTopMost();
+  bool topMost() const { return topMost_; }
+  /// True once Left or Top was set: the window no longer stands where the desktop put it.
+  bool placed() const { return placed_; }
+
+  Form& form() override { return *this; }
+  double twipsPerUnit() const override { return 1; }
+  void repaintWindowless(const raster::Rect& area) override { damage(area); }
+  FormPeer* peer() const { return peer_.get(); }
+
+  // From the toolkit layer.
+  void controlShown(Control& control);
+  void closeBoxPressed();
+  /// The window's inner size in pixels.
+  void windowResized(int width, int height);
+
+ protected:
+  void showPixels(const raster::Rect& area, bool atOnce) override;
+
+ private:
+  friend class FormRegistry;
+  std::unique_ptr<FormPeer> peer_;
+  bool shown_ = false;
+  bool topMost_ = false;
+  bool placed_ = false;
+};
+
+/// Owns every loaded form.
+class FormRegistry {
+ public:
+  static FormRegistry& instance();
+
+  /// Takes a form over, marks it as its class's default instance if asked, and runs its Load.
+  Form& load(std::unique_ptr<Form> form, std::type_index type, bool asDefault);
+  Form* defaultInstance(std::type_index type) const;
+  /// Fires FormUnload, takes the window away, and destroys the form once the outermost handler has
+  /// returned.
+  void unload(Form& form);
+  /// Unloads everything without running handlers.
+  void clear();
+
+  const std::vector<std::unique_ptr<Form>>& forms() const { return forms_; }
+  bool anyVisible() const;
+  /// Runs when a close box has taken the last visible window away.
+  std::function<void()> noWindowLeft;
+
+ private:
+  struct Default {
+    std::type_index type;
+    Form* form;
+  };
+  std::vector<std::unique_ptr<Form>> forms_;
+  std::vector<Default> defaults_;
+};
+
+/// The default instance of a form class, loaded on first use.
+template <class F>
+F& the() {
+  auto& registry = FormRegistry::instance();
+  if (Form* found = registry.defaultInstance(typeid(F))) return static_cast<F&>(*found);
+  return static_cast<F&>(registry.load(std::make_unique<F>(), typeid(F), true));
+}
+
+/// Whether the default instance is loaded.
+template <class F>
+bool isLoaded() {
+  return FormRegistry::instance().defaultInstance(typeid(F)) != nullptr;
+}
+
+/// A new instance of a form class, loaded but not shown.
+template <class F>
+F& loadNew() {
+  return static_cast<F&>(FormRegistry::instance().load(std::make_unique<F>(), typeid(F), false));
+}
+
+/// A new instance of a form class, loaded and shown.
+template <class F>
+F& showNew() {
+  F& form = loadNew<F>();
+  form.Show();
+  return form;
+}
+
+inline void Unload(Form& form) { FormRegistry::instance().unload(form); }
+
+}  // namespace surface

@@ -1,0 +1,65 @@
+// The seams between the model and what carries it: windows, dialogs, files, clipboard, clock. The
+// toolkit layer fills them in at the start; a test puts scripted ones in their place.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "surface/color.h"
+#include "surface/font.h"
+#include "surface/picture.h"
+#include "surface/raster/bitmap.h"
+
+namespace surface {
+
+class Form;
+class FormPeer;
+
+/// What a file dialog is asked for.
+struct FileRequest {
+  bool save = false;
+  std::string filter;   ///< "name|pattern|name|pattern..."
+  int filterIndex = 1;  ///< the row selected at first, from 1
+};
+
+/// A text turned into dots: `dots` has width x height bytes, 1 where the text paints.
+struct TextMask {
+  int width = 0, height = 0;
+  int left = 0,
+      top = 0;  ///< of the dots, relative to the text's origin (upper left of its line), pixels
+  float advance = 0;   ///< how far the next text would stand to the right, pixels
+  int lineHeight = 0;  ///< pixels
+  std::vector<std::uint8_t> dots;
+};
+
+struct Host {
+  std::function<std::unique_ptr<FormPeer>(Form&)> makeForm;
+  /// Buttons 0 OK, 16 OK with the stop sign, 4 Yes and No; answers 1 OK, 6 Yes, 7 No.
+  std::function<int(const std::string& text, int buttons, const std::string& title)> msgBox;
+  std::function<std::optional<std::string>(const std::string& prompt, const std::string& title,
+                                           const std::string& initial)>
+      inputBox;
+  std::function<std::optional<std::string>(const FileRequest&)> fileDialog;
+  std::function<std::optional<Color>(Color initial, int flags)> colorDialog;
+  std::function<Picture(const std::string& path)> loadPicture;
+  std::function<void(const Picture&, const std::string& path)> savePicture;
+  /// One of the program's own pictures by name; empty if there is none of that name.
+  std::function<Picture(const std::string& name)> artPicture;
+  std::function<void(const Picture&)> setClipboard;  ///< an empty picture clears it
+  std::function<Picture()> getClipboard;
+  std::function<TextMask(const Font&, const std::string& text)> rasterText;
+  std::function<std::int64_t()> clock;  ///< milliseconds, never backwards
+  std::function<std::uint64_t()> seed;  ///< something that differs from call to call
+  std::function<void()> timersChanged;  ///< the time of the next tick may have changed
+  std::function<void(const std::string& text)> errorReport;
+  std::function<void()> leaveEventLoop;
+};
+
+/// The seams in force.
+Host& host();
+
+}  // namespace surface

@@ -1,0 +1,39 @@
+// A picture object: an unchanging bitmap that any number of controls, snapshots and the clipboard
+// share, and its way from and to files.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "surface/raster/bitmap.h"
+
+namespace surface {
+
+/// A value; copying it copies a reference. An empty picture has no bitmap.
+class Picture {
+ public:
+  Picture() = default;
+  explicit Picture(std::shared_ptr<const raster::Bitmap> bitmap) : bitmap_(std::move(bitmap)) {}
+
+  bool empty() const { return bitmap_ == nullptr; }
+  /// Pixels; 0 for an empty picture.
+  int width() const { return bitmap_ ? bitmap_->width() : 0; }
+  int height() const { return bitmap_ ? bitmap_->height() : 0; }
+  const std::shared_ptr<const raster::Bitmap>& bitmap() const { return bitmap_; }
+
+  friend bool operator==(const Picture&, const Picture&) = default;
+
+ private:
+  std::shared_ptr<const raster::Bitmap> bitmap_;
+};
+
+/// The empty picture.
+inline Picture LoadPicture() { return {}; }
+/// Reads a BMP, GIF, JPEG, ICO or CUR file, told by its content, at most 64 MiB decoded.
+/// FileNotFound or BadFile otherwise.
+Picture LoadPicture(const std::string& path);
+/// Writes an uncompressed 24-bit Windows bitmap. The file takes the place of an older one only when
+/// it is complete; CannotWrite leaves the older one as it was.
+void SavePicture(const Picture& picture, const std::string& path);
+
+}  // namespace surface
