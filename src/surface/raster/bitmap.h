@@ -1,5 +1,5 @@
-// A 32-bit bitmap and the plain values that the drawing operations take. All coordinates are pixels, the origin is the top
-// left corner, y grows downwards.
+// A 32-bit bitmap and the plain values that the drawing operations take. All coordinates are
+// pixels, the origin is the top left corner, y grows downwards.
 #pragma once
 
 #include <cstddef>
@@ -11,7 +11,8 @@ namespace raster {
 /// One pixel as the screen wants it: 0xFFRRGGBB. The top byte is always 0xFF.
 using Pixel = std::uint32_t;
 
-/// A rectangle of pixels: the columns left..right-1, the rows top..bottom-1. Empty when a side is 0 or less.
+/// A rectangle of pixels: the columns left..right-1, the rows top..bottom-1. Empty when a side is 0
+/// or less.
 struct Rect {
   int left = 0, top = 0, right = 0, bottom = 0;
 
@@ -26,8 +27,9 @@ Rect intersect(const Rect& a, const Rect& b);
 /// The smallest rectangle that holds both; an empty one adds nothing.
 Rect unite(const Rect& a, const Rect& b);
 
-/// A rectangle of pixels in memory, row after row without gaps. Buffers of freed bitmaps are kept for the next one of the same
-/// size, since a snapshot into fresh memory costs many times the copy itself.
+/// A rectangle of pixels in memory, row after row without gaps. Buffers of freed bitmaps are kept
+/// for the next one of the same size, since a snapshot into fresh memory costs many times the copy
+/// itself.
 class Bitmap {
  public:
   Bitmap() = default;

@@ -1,0 +1,154 @@
+// Ellipses with a thin pen or none: the exact curve rounded to pixels.
+#include <cmath>
+
+#include "surface/raster/round.h"
+#include "surface/raster/thin.h"
+#include "surface/raster/wide.h"
+
+namespace raster {
+namespace {
+
+/// One quarter of an ellipse in pixels. A pixel belongs to the shape if the curve or its inside
+/// comes within half a pixel of its centre along a row or a column; that rounds the curve to the
+/// nearest pixel wherever it runs, and half axes of any size and fraction stay exact.
+class Quarter {
+ public:
+  Quarter(double rx, double ry)
+      : a_(rx),
+        b_(ry),
+        a2_(rx * rx),
+        b2_(ry * ry),
+        limit_(rx * rx * ry * ry),
+        ratio_(rx / ry),
+        rows_(static_cast<int>(std::floor(ry + 0.5))) {}
+
+  /// The last row, counted from the centre.
+  int rows() const { return rows_; }
+
+  /// The last column of row j, both counted from the centre; -1 above the last row.
+  int reach(int j) const {
+    if (j > rows_) return -1;
+    int x = static_cast<int>(std::max(halfWidth(j) + 0.5, j == 0 ? 0.0 : halfWidth(j - 0.5)));
+    while (x > 0 && !inside(x, j)) --x;
+    while (inside(x + 1, j)) ++x;
+    return x;
+  }
+
+ private:
+  double halfWidth(double y) const { return y >= b_ ? 0 : ratio_ * std::sqrt(b2_ - y * y); }
+
+  bool inside(double x, double y) const {
+    return touches(std::max(x - 0.5, 0.0), y) || touches(x, std::max(y - 0.5, 0.0));
+  }
+  bool touches(double x, double y) const { return x * x * b2_ + y * y * a2_ <= limit_; }
+
+  double a_, b_, a2_, b2_, limit_, ratio_;
+  int rows_;
+};
+
+/// Where a thin ellipse stands and what of it is visible.
+struct Place {
+  Bitmap& bitmap;
+  int cx, cy;
+  Rows distances;
+};
+
+/// The outline pixels of row j of a quarter: the columns first..last, both included.
+struct Run {
+  int first, last;
+};
+
+/// Calls visit(j, run) for the visible rows of a quarter, from the middle row outwards.
+template <class Visit>
+void forRuns(const Quarter& quarter, const Rows& distances, Visit visit) {
+  int reach = quarter.reach(distances.first);
+  for (int j = distances.first; j <= distances.last; ++j) {
+    const int next = quarter.reach(j + 1);
+    visit(j, Run{std::min(reach, next + 1), reach});
+    reach = next;
+  }
+}
+
+void fillInside(const SpanPainter& painter, const Quarter& quarter, const Place& place,
+                bool withOutline) {
+  forRuns(quarter, place.distances, [&](int j, Run run) {
+    const int reach = withOutline ? run.last : run.first - 1;
+    forBothRows(place.bitmap, place.cy, 0, j, [&](int y) {
+      if (reach >= 0) painter.span(y, place.cx - reach, place.cx + reach);
+    });
+  });
+}
+
+void solidOutline(const SpanPainter& painter, const Quarter& quarter, const Place& place) {
+  forRuns(quarter, place.distances, [&](int j, Run run) {
+    forBothRows(place.bitmap, place.cy, 0, j, [&](int y) {
+      painter.spanAround(y, place.cx - run.last, place.cx + run.last, place.cx - run.first + 1,
+                         place.cx + run.first - 1);
+    });
+  });
+}
+
+// The dots run from the right end over the top, counterclockwise. Steps are counted along the
+// quarter: its mirror images count forth and back.
+void dottedOutline(const SpanPainter& painter, const Quarter& quarter, const Place& place) {
+  std::int64_t steps = -1;
+  forRuns(quarter, {0, quarter.rows()}, [&](int, Run run) { steps += run.last - run.first + 1; });
+  const auto dot = [&](int x, int y, std::int64_t step) {
+    if (y >= 0 && y < place.bitmap.height() && isDotOn(step)) painter.span(y, x, x);
+  };
+  std::int64_t step = 0;
+  forRuns(quarter, {0, place.distances.last}, [&](int j, Run run) {
+    for (int x = run.last; x >= run.first; --x, ++step) {
+      dot(place.cx + x, place.cy - j, step);
+      if (x > 0) dot(place.cx - x, place.cy - j, 2 * steps - step);
+      if (j == 0) continue;
+      dot(place.cx - x, place.cy + j, 2 * steps + step);
+      if (x > 0) dot(place.cx + x, place.cy + j, 4 * steps - step);
+    }
+  });
+}
+
+int nearest(double halfAxis) { return static_cast<int>(std::floor(halfAxis + 0.5)); }
+
+// An ellipse without width is the line between its ends, and both ends belong to it.
+Rect flatEllipse(const Target& target, const Pen& pen, int cx, int cy, int rx, int ry) {
+  if (rx == 0 && ry == 0) return dot(target, pen, cx, cy);
+  const Rect body = line(target, pen, cx - rx, cy - ry, cx + rx, cy + ry);
+  if (!isThin(pen)) return body;
+  const bool on = pen.style == PenStyle::Solid || isDotOn(2 * std::int64_t{rx + ry});
+  return on ? unite(body, dot(target, pen, cx + rx, cy + ry)) : body;
+}
+
+Rect thinEllipse(const Target& target, const Pen& pen, const Brush& brush, int cx, int cy,
+                 double rx, double ry) {
+  const Quarter quarter(rx, ry);
+  const int reach = quarter.reach(0);
+  const Rect area =
+      changed(target.bitmap, cx - reach, cy - quarter.rows(), cx + reach, cy + quarter.rows());
+  if (area.empty()) return area;
+  const Place place{target.bitmap, cx, cy, visibleDistances(target.bitmap, cy, 0, quarter.rows())};
+  const SpanPainter inside(target, brush);
+  if (!inside.idle()) fillInside(inside, quarter, place, pen.style != PenStyle::Null);
+  const SpanPainter outline(target, pen);
+  if (pen.style == PenStyle::Null || outline.idle()) return inside.idle() ? Rect{} : area;
+  if (pen.style == PenStyle::Dotted) {
+    dottedOutline(outline, quarter, place);
+  } else {
+    solidOutline(outline, quarter, place);
+  }
+  return area;
+}
+
+}  // namespace
+
+Rect ellipse(Target target, const Pen& pen, const Brush& brush, int cx, int cy, double rx,
+             double ry) {
+  if (std::nearbyint(rx) == 0)
+    return flatEllipse(target, pen, cx, cy, 0, nearest(ry) * (std::nearbyint(ry) != 0));
+  if (std::nearbyint(ry) == 0) return flatEllipse(target, pen, cx, cy, nearest(rx), 0);
+  if (!isWide(pen)) return thinEllipse(target, pen, brush, cx, cy, rx, ry);
+  return wideEllipse(SpanPainter(target, pen), SpanPainter(target, brush), target.bitmap, pen.width,
+                     cx, cy, rx, ry);
+}
+
+}  // namespace raster

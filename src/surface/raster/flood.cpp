@@ -1,0 +1,210 @@
+// Flood fill. The pixels of the searched colour are turned into bits, 64 to a word, row by row as
+// the fill meets them; spreading along a row is then arithmetic on whole words.
+#include <bit>
+#include <limits>
+#include <vector>
+
+#include "surface/raster/ink.h"
+
+namespace raster {
+namespace {
+
+using Word = std::uint64_t;
+constexpr int kWordBits = 64;
+
+/// Bit i of the result tells whether p[i] is `color`, for `count` (1..64) pixels.
+Word matches(const Pixel* p, int count, Pixel color) {
+  alignas(8) std::uint8_t equal[kWordBits] = {};
+  for (int i = 0; i < count; ++i) equal[i] = p[i] == color;
+  Word bits = 0;
+  for (int i = 0; i < 8; ++i) {
+    Word eight;
+    std::memcpy(&eight, equal + 8 * i, 8);
+    // The product gathers the lowest bits of the eight bytes in its top byte.
+    bits |= (eight * 0x0102040810204080u >> 56) << (8 * i);
+  }
+  return bits;
+}
+
+/// The seeds and all bits of `open` that follow one of them without a gap, towards higher bits: an
+/// addition carries through a run of ones and leaves zeros behind. `carry` goes on to the next
+/// word.
+Word spreadUp(Word seeds, Word open, Word& carry) {
+  const Word sum = open + seeds, total = sum + carry;
+  carry = (sum < open ? 1 : 0) | (total < sum ? 1 : 0);
+  return open & (~total | seeds);
+}
+
+/// The same towards lower bits, in doubling steps.
+Word spreadDown(Word seeds, Word open) {
+  for (int step = 1; step < kWordBits; step *= 2) {
+    seeds |= open & (seeds >> step);
+    open &= open >> step;
+  }
+  return seeds;
+}
+
+/// A range of numbers first..last, empty if last < first.
+struct Range {
+  int first = std::numeric_limits<int>::max();
+  int last = -1;
+
+  bool empty() const { return last < first; }
+  void add(int i) {
+    first = std::min(first, i);
+    last = std::max(last, i);
+  }
+};
+
+/// One row of the fill.
+struct Row {
+  Word* open;     ///< pixels of the region not yet painted
+  Word* seeds;    ///< of these, the ones reached from another row
+  Range pending;  ///< the words that hold seeds
+};
+
+/// The memory of a fill. It is kept from one fill to the next, since fresh memory of this size
+/// costs as much as a small fill.
+struct Scratch {
+  std::vector<Word> words;
+  std::vector<Row> rows;
+};
+
+class Flood {
+ public:
+  Flood(Scratch& scratch, Bitmap& bitmap, Ink ink, BrushStyle style, Pixel region)
+      : scratch_(scratch),
+        bitmap_(bitmap),
+        ink_(ink),
+        style_(style),
+        region_(region),
+        words_((bitmap.width() + kWordBits - 1) / kWordBits) {
+    const std::size_t rows = static_cast<std::size_t>(bitmap.height());
+    if (scratch.words.size() < 2 * rows * words_) scratch.words.resize(2 * rows * words_);
+    scratch.rows.assign(rows, Row{nullptr, nullptr, {}});
+  }
+
+  /// Sweeps down and up by turns, each time from the rows that were reached behind the last sweep.
+  Rect run(int x, int y) {
+    seed(y, x / kWordBits, Word{1} << (x % kWordBits));
+    Range rows{y, y};
+    for (int step = 1; !rows.empty(); step = -step) {
+      const int begin = step > 0 ? rows.first : rows.last;
+      ahead_ = step > 0 ? rows.last : rows.first;
+      behind_ = Range{};
+      for (int at = begin; (ahead_ - at) * step >= 0; at += step) {
+        if (!scratch_.rows[at].pending.empty()) visit(at, step);
+      }
+      rows = behind_;
+    }
+    return changed();
+  }
+
+ private:
+  Row& know(int y) {
+    Row& row = scratch_.rows[y];
+    if (row.open != nullptr) return row;
+    row.open = scratch_.words.data() + 2 * std::size_t(y) * words_;
+    row.seeds = row.open + words_;
+    const Pixel* pixels = bitmap_.row(y);
+    for (int i = 0; i < words_; ++i) {
+      const int left = i * kWordBits;
+      row.open[i] = matches(pixels + left, std::min(kWordBits, bitmap_.width() - left), region_);
+      row.seeds[i] = 0;
+    }
+    return row;
+  }
+
+  bool seed(int y, int word, Word bits) {
+    Row& row = know(y);
+    bits &= row.open[word];
+    if (bits == 0) return false;
+    row.seeds[word] |= bits;
+    row.pending.add(word);
+    return true;
+  }
+
+  void visit(int y, int step) {
+    Row& row = scratch_.rows[y];
+    const Range pending = row.pending;
+    row.pending = Range{};
+    const int last = spreadRight(row, pending);
+    Word carry = 0;
+    for (int i = last; i >= pending.first || (carry != 0 && i >= 0); --i) {
+      const Word seeds = row.seeds[i] | ((carry << (kWordBits - 1)) & row.open[i]);
+      carry = 0;
+      if (seeds == 0) continue;
+      const Word found = spreadDown(seeds, row.open[i]);
+      carry = found & 1;
+      row.seeds[i] = 0;
+      row.open[i] &= ~found;
+      take(y, i, found, step);
+    }
+  }
+
+  /// Spreads all seeds towards higher columns; gives the last word with any.
+  int spreadRight(Row& row, const Range& pending) {
+    Word carry = 0;
+    int i = pending.first;
+    for (; i <= pending.last || (carry != 0 && i < words_); ++i) {
+      row.seeds[i] = spreadUp(row.seeds[i], row.open[i], carry);
+    }
+    return i - 1;
+  }
+
+  /// Paints what was found and seeds the rows beside it.
+  void take(int y, int word, Word found, int step) {
+    paint(y, word, found);
+    const int ahead = y + step, behind = y - step;
+    if (inside(ahead) && seed(ahead, word, found)) {
+      ahead_ = step > 0 ? std::max(ahead_, ahead) : std::min(ahead_, ahead);
+    }
+    if (inside(behind) && seed(behind, word, found)) behind_.add(behind);
+  }
+
+  bool inside(int y) const { return y >= 0 && y < bitmap_.height(); }
+
+  // A row is painted only after its pixels were turned into bits, so the brush may have the very
+  // colour of the region.
+  void paint(int y, int word, Word bits) {
+    paintedRows_.add(y);
+    paintedWords_.add(word);
+    if (style_ != BrushStyle::Solid) bits &= hatchBits(style_, y) * (~Word{0} / 0xFF);
+    Pixel* p = bitmap_.row(y) + word * kWordBits;
+    while (bits != 0) {
+      const int skip = std::countr_zero(bits);
+      const int count = std::countr_one(bits >> skip);
+      paintPixels(p + skip, count, ink_);
+      if (skip + count == kWordBits) return;
+      bits = bits >> (skip + count) << (skip + count);
+    }
+  }
+
+  Rect changed() const {
+    return intersect(bitmap_.bounds(),
+                     {paintedWords_.first * kWordBits, paintedRows_.first,
+                      (paintedWords_.last + 1) * kWordBits, paintedRows_.last + 1});
+  }
+
+  Scratch& scratch_;
+  Bitmap& bitmap_;
+  Ink ink_;
+  BrushStyle style_;
+  Pixel region_;
+  int words_;
+  int ahead_ = 0;
+  Range behind_, paintedRows_, paintedWords_;
+};
+
+}  // namespace
+
+Rect floodFill(Target target, const Brush& brush, int x, int y, Pixel region) {
+  const Ink ink = inkOf(target.rop, brush.color);
+  if (brush.style == BrushStyle::Null || ink.leaves()) return {};
+  region |= kOpaque;
+  if (!target.bitmap.contains(x, y) || target.bitmap.at(x, y) != region) return {};
+  thread_local Scratch scratch;
+  return Flood(scratch, target.bitmap, ink, brush.style, region).run(x, y);
+}
+
+}  // namespace raster

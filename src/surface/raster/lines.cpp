@@ -1,0 +1,34 @@
+// Lines and dots with any pen.
+#include "surface/raster/thin.h"
+#include "surface/raster/wide.h"
+
+namespace raster {
+
+Rect dot(Target target, const Pen& pen, int x, int y) {
+  if (pen.style == PenStyle::Null) return {};
+  const SpanPainter painter(target, pen);
+  if (painter.idle()) return {};
+  if (isWide(pen)) return capsule(painter, target.bitmap, pen.width, x, y, x, y);
+  if (!target.bitmap.contains(x, y)) return {};
+  painter.span(y, x, x);
+  return {x, y, x + 1, y + 1};
+}
+
+Rect line(Target target, const Pen& pen, int x1, int y1, int x2, int y2) {
+  if (x1 == x2 && y1 == y2) return dot(target, pen, x1, y1);
+  if (pen.style == PenStyle::Null) return {};
+  const Ink ink = inkOf(target.rop, pen.color);
+  if (ink.leaves()) return {};
+  if (isWide(pen)) {
+    return capsule(SpanPainter(target.bitmap, ink), target.bitmap, pen.width, x1, y1, x2, y2);
+  }
+  if (pen.style == PenStyle::Dotted) {
+    dottedThinLine(target.bitmap, ink, x1, y1, x2, y2, 0);
+  } else {
+    solidThinLine(target.bitmap, ink, x1, y1, x2, y2);
+  }
+  return changed(target.bitmap, std::min(x1, x2), std::min(y1, y2), std::max(x1, x2),
+                 std::max(y1, y2));
+}
+
+}  // namespace raster

@@ -1,0 +1,85 @@
+// Copying a block at another size, without smoothing: which source pixel a target pixel takes.
+#include <vector>
+
+#include "surface/raster/ink.h"
+
+namespace raster {
+namespace {
+
+using Wide = std::int64_t;
+
+Wide ceilDiv(Wide a, Wide b) { return a / b + (a % b > 0 ? 1 : 0); }
+Wide floorDiv(Wide a, Wide b) { return a / b - (a % b < 0 ? 1 : 0); }
+
+/// Of several source pixels that fall on one target pixel the platform keeps the last column but
+/// the first row.
+enum class Keeps { First, Last };
+
+/// The source pixel for target pixel i = 0..to-1 when `from` pixels become `to`.
+int sample(int i, Wide from, Wide to, Keeps keeps) {
+  // Enlarging: the pixel under the middle of the target pixel, the lower one if it is on a border.
+  if (to >= from) return static_cast<int>(ceilDiv((2 * i + 1) * from, 2 * to) - 1);
+  if (to == 1) --from;
+  if (keeps == Keeps::Last) return static_cast<int>(floorDiv(2 * from * (i + 1) - to, 2 * to));
+  return i == 0 ? 0 : static_cast<int>(floorDiv(2 * from * i - to, 2 * to) + 1);
+}
+
+/// One axis of a stretch: source and target as ranges that run upwards, and whether one is turned.
+struct Axis {
+  int target, targetSize, source, sourceSize;
+  bool mirrored;
+
+  Axis(int t, int tsize, int s, int ssize)
+      : target(tsize < 0 ? t + tsize : t),
+        targetSize(tsize < 0 ? -tsize : tsize),
+        source(ssize < 0 ? s + ssize : s),
+        sourceSize(ssize < 0 ? -ssize : ssize),
+        mirrored((tsize < 0) != (ssize < 0)) {}
+
+  /// The source pixel for a target pixel, both as coordinates.
+  int sourceOf(int at, Keeps keeps) const {
+    const int i = mirrored ? targetSize - 1 - (at - target) : at - target;
+    return source + sample(i, sourceSize, targetSize, keeps);
+  }
+};
+
+/// The source pixels for the target pixels first..last-1 of an axis; -1 where there is none.
+std::vector<int> sources(const Axis& axis, int first, int last, int available, Keeps keeps) {
+  std::vector<int> result(static_cast<std::size_t>(last - first));
+  for (int at = first; at < last; ++at) {
+    const int from = axis.sourceOf(at, keeps);
+    result[at - first] = from >= 0 && from < available ? from : -1;
+  }
+  return result;
+}
+
+void stretchRow(Pixel* to, const Pixel* from, const std::vector<int>& columns) {
+  for (const int column : columns) {
+    if (column >= 0) *to = from[column];
+    ++to;
+  }
+}
+
+}  // namespace
+
+Rect stretch(Bitmap& target, int x, int y, int width, int height, const Bitmap& source, int sx,
+             int sy, int swidth, int sheight) {
+  if (swidth == 0 || sheight == 0) return {};
+  if (&source == &target) {
+    return stretch(target, x, y, width, height, Bitmap(source), sx, sy, swidth, sheight);
+  }
+  const Axis across(x, width, sx, swidth), down(y, height, sy, sheight);
+  const Rect area =
+      intersect(target.bounds(), {across.target, down.target, across.target + across.targetSize,
+                                  down.target + down.targetSize});
+  if (area.empty()) return {};
+  const auto columns = sources(across, area.left, area.right, source.width(), Keeps::Last);
+  const auto rows = sources(down, area.top, area.bottom, source.height(), Keeps::First);
+  for (int row = area.top; row < area.bottom; ++row) {
+    const int from = rows[row - area.top];
+    if (from >= 0) stretchRow(target.row(row) + area.left, source.row(from), columns);
+  }
+  return area;
+}
+
+}  // namespace raster
