@@ -1,4 +1,4 @@
-"""Fits the small glyphs, the stamps and the two smallest icons to whole pixels and writes each as an SVG of squares.
+"""Fits the small glyphs, the stamps and the smallest icons to whole pixels and writes each as an SVG of squares.
 
 Run it after a change (`/usr/bin/python3 art/pictures/glyphs.py`), then `art/render NAME`. A figure is a set of pixels; `fig`
 fills it and draws its inner edge in ink, `ring` puts the ink around it, `put` only fills.
@@ -192,23 +192,21 @@ def glyphs():
     yield g
 
     for name, s, colour in (("rechthoek", rect(2, 4, 18, 16), RED), ("cirkel", oval(2, 2, 18, 18), SUN),
-                            ("ellips", oval(0, 4, 20, 16), BLUE)):
+                            ("ellips", oval(1, 5, 19, 15), BLUE)):
         yield Glyph(name).put(s - (s - edge(s) - edge(s - edge(s))), INK)
         g = Glyph(name + "gevuld").fig(s, colour)
         yield g
 
     g = Glyph("opvullen")
-    g.put(curve((5, 8), (5, 1), (10, 1)) | curve((10, 1), (15, 1), (15, 6)), INK)
-    g.fig(poly((4, 10), (11, 3), (19, 10), (19, 12), (12, 19), (10, 18)), STONE)
-    g.put(line(12, 6, 17, 11), PAPER)
-    g.put(line(13, 17, 18, 12) | line(12, 17, 17, 12), blend(STONE, INK, .3))
-    g.fig(poly((3, 10), (10, 3), (12, 4), (12, 6), (6, 12), (4, 12)), BLUE)
-    g.put(rect(1, 10, 4, 17) | line(2, 9, 4, 9), BLUE)
-    g.put(line(0, 11, 0, 16) | line(1, 9, 1, 10) | line(2, 9, 3, 8), INK)
-    g.put(line(5, 12, 5, 16), INK)
-    g.fig(oval(0, 16, 9, 20), BLUE)
-    g.put(rect(1, 14, 4, 18), BLUE)
-    g.put(line(2, 11, 2, 15), blend(BLUE, PAPER, .5))
+    g.put(curve((4, 9), (3, 0), (12, 3)), INK)
+    g.fig(poly((4, 11), (12, 3), (20, 11), (12, 19)), STONE)
+    g.put(line(13, 6, 17, 10), PAPER).put(line(13, 17, 18, 12) | line(12, 17, 17, 12), blend(STONE, INK, .3))
+    g.put(line(5, 11, 12, 4) | line(5, 12, 12, 5) | line(6, 12, 12, 6) | line(6, 11, 11, 6) | line(6, 10, 11, 5), BLUE)
+    g.put(line(6, 13, 13, 6), INK)
+    g.fig(oval(0, 16, 8, 20), BLUE)
+    g.put(rect(2, 11, 5, 17), BLUE).put({(2, 10), (3, 10), (4, 10), (3, 9), (4, 9)}, BLUE)
+    g.put(line(1, 11, 1, 16) | line(6, 13, 6, 16) | {(2, 9), (1, 10), (3, 8), (4, 8)}, INK).put({(2, 10)}, BLUE)
+    g.put(line(3, 11, 3, 15), blend(BLUE, PAPER, .55))
     yield g
 
     g = Glyph("drop")
@@ -247,7 +245,7 @@ def glyphs():
 
     g = Glyph("gom")
     rubber(g, 0, -3)
-    g.put(line(2, 18, 18, 18) - line(3, 18, 11, 18), INK).put({(3, 18), (5, 17), (6, 19), (9, 18), (3, 20), (10, 20)}, PINK)
+    g.put(rect(13, 18, 19, 19), BLUE).put({(1, 18), (4, 17), (3, 19), (7, 18), (9, 19), (10, 17), (6, 20)}, BLUE)
     yield g
 
     g = Glyph("clear")
@@ -313,19 +311,17 @@ def glyphs():
     yield Glyph("redo").fig(flip(arrow_back(), 21), GRASS)
 
     g = Glyph("help")
-    bow = oval(4, 1, 16, 12) - oval(8, 5, 12, 8)
-    bow = {(x, y) for x, y in bow if not (y >= 7 and x < 9)} | rect(8, 9, 12, 14)
-    bow = {(x, y) for x, y in bow if not (x < 8 and y > 6)}
+    bow = oval(4, 0, 16, 11) - oval(8, 4, 12, 7)
+    bow = {(x, y) for x, y in bow if not (y >= 6 and x < 9)} | rect(8, 8, 12, 13)
+    bow = {(x, y) for x, y in bow if not (x < 8 and y > 5)}
     g.fig(bow, PURPLE)
-    g.fig(rect(8, 16, 12, 20), PURPLE)
+    g.fig(rect(8, 15, 12, 19), PURPLE)
     yield g
 
     g = Glyph("formaat")
-    g.put({(x, 1) for x in range(1, 20, 2)} | {(19, y) for y in range(1, 20, 2)} | {(1, y) for y in range(1, 8, 2)}
-          | {(x, 19) for x in range(13, 20, 2)}, INK)
-    g.fig(rect(1, 9, 11, 19), PAPER)
-    g.ring(line(7, 13, 15, 5) | line(7, 12, 14, 5) | line(8, 13, 15, 6) | path((11, 4), (16, 4), (16, 9)) |
-           path((11, 5), (15, 5), (15, 9)) | path((6, 9), (6, 14), (11, 14)) | path((7, 9), (7, 13), (11, 13)), RED)
+    sheet(g, 0, 0, 13, 13)
+    arrow = line(17, 0, 17, 13) | rect(16, 1, 18, 1) | rect(15, 2, 19, 2) | rect(16, 12, 18, 12) | rect(15, 11, 19, 11)
+    g.put(arrow | turn(arrow), RED)
     yield g
 
     axis = {(x, 10) for x in range(0, 21) if x % 4 != 3}
@@ -334,11 +330,11 @@ def glyphs():
     yield Glyph("spiegelh").put(turn(axis), RED).fig(turn(up), BLUE).fig(turn(down), SKY)
 
     g = Glyph("palet")
-    s = oval(1, 3, 19, 18) - oval(12, 13, 21, 20)
+    s = oval(1, 2, 19, 18) - oval(13, 14, 23, 24)
     g.fig(s, SAND)
-    hole = oval(10, 13, 12, 15)
+    hole = rect(10, 10, 11, 11)
     g.put(near(hole), INK).put(hole, None)
-    for x, y, c in ((4, 10, RED), (5, 6, SUN), (9, 4, GRASS), (13, 5, BLUE), (15, 9, PURPLE), (5, 13, ORANGE)):
+    for x, y, c in ((3, 9, RED), (5, 5, SUN), (9, 3, GRASS), (13, 5, BLUE), (4, 13, ORANGE), (8, 14, PURPLE)):
         g.put(rect(x, y, x + 2, y + 2), c)
     yield g
 
@@ -381,7 +377,7 @@ def glyphs():
     g.fig(rect(1, 3, 19, 17), RED)
     for x in range(2, 19):
         t = (x - 2) / 16
-        g.put(line(x, 4, x, 16), blend(RED, SUN, t * 2) if t < .5 else blend(SUN, BLUE, t * 2 - 1) if 0 else blend(SUN, PAPER, t * 2 - 1))
+        g.put(line(x, 4, x, 16), blend(RED, SUN, t * 2) if t < .5 else blend(SUN, PAPER, t * 2 - 1))
     yield g
 
     g = Glyph("effecten", ground=PANEL)
@@ -404,11 +400,11 @@ def glyphs():
     yield g
 
     g = Glyph("roteren", ground=PANEL)
-    s = {(x, y) for x, y in oval(0, 0, 20, 20) - oval(3, 3, 17, 17) if not (x > 9 and y < 9)}
-    s |= poly((10, 0), (10, 5), (16, 3)) | poly((10, 0), (15, 3), (10, 6))
+    s = {(x, y) for x, y in oval(2, 3, 18, 19) - oval(4, 5, 16, 17) if not (x > 11 and y < 9)}
+    s |= rect(11, 1, 11, 6) | rect(12, 2, 12, 5) | rect(13, 3, 13, 4)
     g.ring(s, RED)
-    g.fig(rect(6, 7, 14, 14), SKY)
-    g.put(rect(7, 12, 13, 13) | line(8, 11, 10, 11), GRASS).put(rect(11, 8, 12, 9), SUN)
+    g.fig(rect(7, 8, 13, 14), SKY)
+    g.put(rect(8, 12, 12, 13) | line(9, 11, 10, 11), GRASS).put(rect(11, 9, 12, 10), SUN)
     yield g
 
     # ---- the text dialogue
@@ -431,7 +427,44 @@ def glyphs():
     for x in range(1, 24):
         g.put(line(x, 2, x, 13), blend(RED, SUN, (x - 1) / 22))
     g.put(edge(rect(0, 1, 24, 14)), INK)
-    g.fig(poly((1, 17), (16, 17), (16, 15), (23, 19), (16, 23), (16, 21), (1, 21)), BLUE)
+    g.ring(rect(2, 19, 14, 20) | poly((15, 17), (15, 22), (18, 19)) | {(18, 20), (17, 21), (16, 21)}, BLUE)
+    yield g
+
+
+def icons():
+    """The icon where the large drawing would blur."""
+    g = Glyph("pictogram16", 16)
+    g.put(path((0, 14), (2, 15), (4, 14), (6, 15), (8, 14), (10, 15), (12, 14), (14, 15)), RED)
+    g.fig(poly((1, 13), (2, 9), (10, 1), (13, 1), (14, 2), (14, 5), (6, 12)), SUN)
+    g.put(line(6, 11, 12, 5), ORANGE)
+    g.put(poly((11, 2), (12, 2), (13, 3), (13, 4)) | {(10, 2), (13, 5), (12, 3)}, PINK).put({(10, 3), (11, 4), (12, 5)}, INK)
+    g.put({(3, 9), (3, 10), (4, 10), (4, 11), (5, 11), (3, 11)}, SAND).put({(2, 12), (1, 13), (2, 13), (1, 12), (3, 12), (2, 11)}, INK)
+    g.put({(6, 6), (9, 7)}, INK)
+    yield g
+
+    g = Glyph("pictogram24", 24)
+    wave = path((0, 22), (2, 20), (3, 20), (5, 22), (7, 22), (9, 20), (10, 20), (12, 22), (14, 22), (16, 20), (17, 20), (19, 22), (21, 22))
+    g.put(wave | move(wave, 0, 1), RED)
+    g.fig(poly((2, 20), (3, 13), (14, 2), (16, 1), (19, 1), (22, 4), (22, 7), (21, 9), (10, 19)), SUN)
+    g.put(line(9, 18, 19, 8) | line(10, 18, 20, 8) | line(9, 17, 19, 7), ORANGE)
+    g.fig(poly((13, 3), (14, 2), (16, 1), (19, 1), (22, 4), (22, 7), (20, 10)), PINK)
+    g.fig(poly((2, 20), (3, 13), (10, 19)), SAND).put({(3, 18), (3, 19), (4, 19), (4, 18), (5, 19)}, INK)
+    g.put(rect(9, 9, 10, 11) | rect(13, 9, 14, 11), INK)
+    g.put({(9, 13), (10, 14), (11, 14), (12, 14), (13, 14), (14, 13)}, INK)
+    yield g
+
+    g = Glyph("pictogram32", 32)
+    wave = path((0, 30), (3, 27), (4, 27), (7, 30), (9, 30), (12, 27), (14, 27), (17, 30), (19, 30), (22, 27), (24, 27), (27, 30), (29, 30))
+    g.put(wave | move(wave, 0, 1) | move(wave, 0, -1), RED)
+    body = poly((3, 27), (5, 18), (19, 4), (22, 2), (26, 2), (29, 5), (29, 9), (27, 12), (13, 26))
+    g.fig(body, SUN)
+    for i in range(3):
+        g.put(line(11 + i, 24 - (i == 0), 25 + i - (i == 2), 10 + (i == 2) - (i == 0)), ORANGE)
+    g.fig(poly((18, 5), (19, 4), (22, 2), (26, 2), (29, 5), (29, 9), (27, 12), (26, 13)), PINK)
+    g.fig(poly((3, 27), (5, 18), (13, 26)), SAND).put(rect(4, 24, 5, 26) | {(6, 26), (6, 25)}, INK)
+    g.put(edge(body) | {p for p in edge(body - edge(body))}, INK)
+    g.put(rect(12, 13, 13, 15) | rect(17, 13, 18, 15), INK)
+    g.put({(12, 18), (13, 19), (14, 19), (15, 19), (16, 19), (17, 19), (18, 18), (14, 20), (15, 20), (16, 20)}, INK)
     yield g
 
 
@@ -463,5 +496,5 @@ def stamps():
 
 
 if __name__ == "__main__":
-    for drawing in list(glyphs()) + list(stamps()):
+    for drawing in [*glyphs(), *icons(), *stamps()]:
         drawing.write()
