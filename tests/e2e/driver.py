@@ -234,9 +234,6 @@ class Desktop:
         """Closes a window as its close box does, by the window manager's own key."""
         self._xdotool("windowactivate", "--sync", window, "key", "--clearmodifiers", "alt+F4")
 
-    def start(self, program, *arguments):
-        return Program(self, program, *arguments)
-
 
 class Program:
     """One run of the program."""
