@@ -434,12 +434,14 @@ def glyphs():
 def icons():
     """The icon where the large drawing would blur."""
     g = Glyph("pictogram16", 16)
-    g.put(path((0, 14), (2, 15), (4, 14), (6, 15), (8, 14), (10, 15), (12, 14), (14, 15)), RED)
-    g.fig(poly((1, 13), (2, 9), (10, 1), (13, 1), (14, 2), (14, 5), (6, 12)), SUN)
-    g.put(line(6, 11, 12, 5), ORANGE)
-    g.put(poly((11, 2), (12, 2), (13, 3), (13, 4)) | {(10, 2), (13, 5), (12, 3)}, PINK).put({(10, 3), (11, 4), (12, 5)}, INK)
-    g.put({(3, 9), (3, 10), (4, 10), (4, 11), (5, 11), (3, 11)}, SAND).put({(2, 12), (1, 13), (2, 13), (1, 12), (3, 12), (2, 11)}, INK)
-    g.put({(6, 6), (9, 7)}, INK)
+    g.put(path((1, 15), (2, 14), (3, 14), (4, 15), (6, 15), (7, 14), (8, 14), (9, 15), (11, 15), (12, 14), (13, 14), (14, 15)), RED)
+    body = poly((1, 13), (2, 9), (9, 2), (11, 1), (12, 1), (14, 3), (14, 4), (13, 6), (6, 13))
+    g.fig(body, SUN)
+    inner = body - edge(body)
+    g.put({(x, y) for x, y in inner if x + y > 16}, ORANGE).put({(x, y) for x, y in inner if x - y > 5}, PINK)
+    g.put({(x, y) for x, y in inner if x - y == 5}, INK)
+    g.put({(x, y) for x, y in inner if x - y < -5}, SAND).put({(2, 12), (2, 11), (3, 12)}, INK)
+    g.put({(6, 6), (6, 7), (9, 6), (9, 7), (7, 9), (8, 9)}, INK)
     yield g
 
     g = Glyph("pictogram24", 24)
@@ -458,13 +460,12 @@ def icons():
     g.put(wave | move(wave, 0, 1) | move(wave, 0, -1), RED)
     body = poly((3, 27), (5, 18), (19, 4), (22, 2), (26, 2), (29, 5), (29, 9), (27, 12), (13, 26))
     g.fig(body, SUN)
-    for i in range(3):
-        g.put(line(11 + i, 24 - (i == 0), 25 + i - (i == 2), 10 + (i == 2) - (i == 0)), ORANGE)
+    g.put({(x, y) for x, y in body if x + y > 34}, ORANGE).put(edge(body), INK)
     g.fig(poly((18, 5), (19, 4), (22, 2), (26, 2), (29, 5), (29, 9), (27, 12), (26, 13)), PINK)
     g.fig(poly((3, 27), (5, 18), (13, 26)), SAND).put(rect(4, 24, 5, 26) | {(6, 26), (6, 25)}, INK)
     g.put(edge(body) | {p for p in edge(body - edge(body))}, INK)
-    g.put(rect(12, 13, 13, 15) | rect(17, 13, 18, 15), INK)
-    g.put({(12, 18), (13, 19), (14, 19), (15, 19), (16, 19), (17, 19), (18, 18), (14, 20), (15, 20), (16, 20)}, INK)
+    g.put(rect(14, 12, 15, 14) | rect(19, 12, 20, 14), INK)
+    g.put({(13, 16), (14, 17), (15, 18), (16, 18), (17, 18), (18, 17), (19, 16)} | line(14, 18, 18, 18), INK)
     yield g
 
 
