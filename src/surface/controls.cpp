@@ -112,6 +112,7 @@ void OptionButton::clicked() {
 
 ComboBox::ComboBox(Container& container, const Design& d)
     : Control(container, {d.Left, d.Top, d.Width, ComboHeight}, d.Visible),
+      Font(*this, d.Font),
       ListIndex(*this, d.ListIndex),
       list_(d.List) {
   ToolTipText.setQuietly(d.ToolTipText);

@@ -177,6 +177,7 @@ class ComboBox : public Control {
   };
   ComboBox(Container& container, const Design& design);
 
+  Prop<surface::Font, &ComboBox::lookChanged> Font;
   Prop<int, &ComboBox::selected>
       ListIndex;  ///< -1 = none; beyond the list a BadPropertyValue error
   Event<> Click;

@@ -1,0 +1,46 @@
+// The farewell: greets the child by name and ends the program by itself.
+#pragma once
+
+#include "surface/surface.h"
+
+class frmEinde : public surface::Form {
+ public:
+  frmEinde();
+
+  surface::ImageControl Image9{
+      *this, {.Left = 120, .Top = 0, .Width = 6375, .Height = 6135, .Picture = "welkom"}};
+  surface::Label Label2{*this,
+                        {.Left = 3960,
+                         .Top = 6120,
+                         .Width = 1455,
+                         .Height = 375,
+                         .Caption = "Bedankt,  ",
+                         .BackColor = 0xC0FFC0,
+                         .ForeColor = 0x0000FF,
+                         .Font = {"Arial", 18, true}}};
+  surface::TextBox txtNaam2{*this,
+                            {.Left = 5520,
+                             .Top = 6120,
+                             .Width = 3375,
+                             .Height = 465,
+                             .BackColor = 0xC0FFC0,
+                             .ForeColor = 0x800080,
+                             .Font = {"Arial", 18, true},
+                             .Locked = true,
+                             .Border = false}};
+  surface::Label Label1{
+      *this,
+      {.Left = 3960,
+       .Top = 6600,
+       .Width = 4815,
+       .Height = 1455,
+       .Caption = "Vond je het de moeite waard ?                  Fijn zo !                Bedankt "
+                  "voor je moeite en ...          tot een volgende keer !",
+       .BackColor = 0xC0FFC0,
+       .ForeColor = 0x0000FF,
+       .Font = {"Arial", 15.75f, true}}};
+  surface::TimerControl Timer1{{.Interval = 3500}};
+
+ private:
+  void Timer1_Timer();
+};

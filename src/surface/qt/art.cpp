@@ -1,0 +1,71 @@
+// Pictures are found by their name alone, whatever their format, so that they can be replaced
+// without touching code.
+#include "surface/qt/art.h"
+
+#include <QFile>
+#include <QHash>
+#include <QPixmapCache>
+#include <QTextStream>
+
+#include "surface/qt/images.h"
+
+namespace surface::qt {
+namespace {
+
+QImage artImage(const std::string& name) {
+  for (const char* kind : {"png", "gif", "bmp"}) {
+    const QString path = QString(":/art/%1.%2").arg(QString::fromStdString(name), kind);
+    if (QFile::exists(path)) return QImage(path);
+  }
+  return {};
+}
+
+// The working tips of the cursors, listed beside them as "name x y".
+QPoint hotSpot(const std::string& name) {
+  QFile list(":/art/cursors.txt");
+  if (!list.open(QIODevice::ReadOnly | QIODevice::Text)) return {};
+  QTextStream lines(&list);
+  while (!lines.atEnd()) {
+    const QStringList fields = lines.readLine().split(' ', Qt::SkipEmptyParts);
+    if (fields.size() == 3 && fields[0].toStdString() == name)
+      return {fields[1].toInt(), fields[2].toInt()};
+  }
+  return {};
+}
+
+}  // namespace
+
+QPixmap artPixmap(const std::string& name) {
+  QPixmap pixmap;
+  const QString key = "art/" + QString::fromStdString(name);
+  if (QPixmapCache::find(key, &pixmap)) return pixmap;
+  pixmap = QPixmap::fromImage(artImage(name));
+  QPixmapCache::insert(key, pixmap);
+  return pixmap;
+}
+
+Picture artPicture(const std::string& name) {
+  const QImage image = artImage(name);
+  return image.isNull() ? Picture() : toPicture(image);
+}
+
+QCursor artCursor(const std::string& name) {
+  static QHash<QString, QCursor> made;
+  const QString key = QString::fromStdString(name);
+  if (const auto found = made.constFind(key); found != made.constEnd()) return *found;
+  const QPixmap pixmap = artPixmap(name);
+  const QPoint tip = hotSpot(name);
+  return *made.insert(
+      key, pixmap.isNull() ? QCursor(Qt::CrossCursor) : QCursor(pixmap, tip.x(), tip.y()));
+}
+
+QIcon windowIcon() {
+  QIcon icon;
+  for (int size : {16, 24, 32, 48, 64, 128, 256, 512}) {
+    const QString path = QString(":/art/pictogram%1.png").arg(size);
+    if (QFile::exists(path)) icon.addFile(path, QSize(size, size));
+  }
+  return icon;
+}
+
+}  // namespace surface::qt

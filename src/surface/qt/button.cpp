@@ -1,0 +1,77 @@
+// Buttons paint themselves: the toolkit's own ones turn a given colour into a tinted gradient.
+#include "surface/qt/button.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+#include "surface/qt/art.h"
+#include "surface/qt/pointer.h"
+#include "surface/qt/text_layout.h"
+
+namespace surface::qt {
+
+void drawClassicEdge(QPainter& painter, const QRect& area, bool sunken) {
+  const QColor light(0xFF, 0xFF, 0xFF), shadow(0x80, 0x80, 0x80), dark(0x40, 0x40, 0x40);
+  const auto frame = [&](const QRect& r, const QColor& upper, const QColor& lower) {
+    painter.fillRect(r.left(), r.top(), r.width(), 1, upper);
+    painter.fillRect(r.left(), r.top(), 1, r.height(), upper);
+    painter.fillRect(r.left(), r.bottom(), r.width(), 1, lower);
+    painter.fillRect(r.right(), r.top(), 1, r.height(), lower);
+  };
+  if (sunken) {
+    frame(area, dark, dark);
+    frame(area.adjusted(1, 1, -1, -1), shadow, shadow);
+  } else {
+    frame(area, light, dark);
+    frame(area.adjusted(1, 1, -1, -1), QColor(0xE8, 0xE8, 0xE8), shadow);
+  }
+}
+
+ButtonWidget::ButtonWidget(CommandButton& owner, QWidget& parent)
+    : QPushButton(&parent), control(&owner) {
+  setAutoDefault(false);
+  setCursor(Qt::ArrowCursor);
+  QObject::connect(this, &QPushButton::clicked, this, [this] {
+    if (control) dispatch([this] { control->Click(); });
+  });
+}
+
+void ButtonWidget::sync(Aspect aspect) {
+  if (aspect == Aspect::Look) {
+    picture_ = control->Picture->empty() ? QPixmap() : artPixmap(control->Picture);
+    setFont(toQFont(control->Font));
+    setText(QString::fromStdString(control->Caption));
+  }
+  applyCommon(*this, *control, aspect, spoken(control->Caption));
+  update();
+}
+
+void ButtonWidget::paintEvent(QPaintEvent*) {
+  if (!control) return;
+  QPainter painter(this);
+  painter.fillRect(rect(), toQColor(control->BackColor));
+  drawClassicEdge(painter, rect(), isDown());
+  QRect inner = rect().adjusted(3, 3, -3, -3);
+  if (isDown()) inner.translate(1, 1);
+  if (!picture_.isNull()) {
+    painter.setOpacity(isEnabled() ? 1 : 0.3);
+    painter.drawPixmap(inner.left() + (inner.width() - picture_.width()) / 2,
+                       inner.top() + (inner.height() - picture_.height()) / 2, picture_);
+    painter.setOpacity(1);
+  }
+  painter.setFont(font());
+  painter.setPen(isEnabled() ? Qt::black : QColor(0x80, 0x80, 0x80));
+  drawCaption(painter, inner, text(), true);
+  if (hasFocus()) {
+    painter.setPen(QPen(QColor(0, 0, 0, 0xA0), 1, Qt::DotLine));
+    painter.drawRect(rect().adjusted(3, 3, -4, -4));
+  }
+}
+
+void ButtonWidget::mouseReleaseEvent(QMouseEvent* event) {
+  const Mouse mouse = toMouse(*event, TwipsPerPixel);
+  QPushButton::mouseReleaseEvent(event);
+  if (control) dispatch([&] { control->MouseUp(mouse); });
+}
+
+}  // namespace surface::qt

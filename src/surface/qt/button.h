@@ -1,0 +1,31 @@
+// The push button: the classic raised face in exactly its BackColor, with a picture or a caption
+// that wraps.
+#pragma once
+
+#include <QPixmap>
+#include <QPushButton>
+#include <memory>
+
+#include "surface/qt/peers.h"
+
+namespace surface::qt {
+
+class ButtonWidget : public QPushButton {
+ public:
+  ButtonWidget(CommandButton& owner, QWidget& parent);
+  void sync(Aspect aspect);
+
+  CommandButton* control;
+
+ protected:
+  void paintEvent(QPaintEvent*) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+
+ private:
+  QPixmap picture_;
+};
+
+/// The raised (or sunken) edge of two pixels round a face.
+void drawClassicEdge(QPainter& painter, const QRect& area, bool sunken);
+
+}  // namespace surface::qt

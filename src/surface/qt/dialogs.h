@@ -1,0 +1,24 @@
+// The standard dialogs and the clipboard, in Dutch.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "surface/host.h"
+
+namespace surface::qt {
+
+int msgBox(const std::string& text, int buttons, const std::string& title);
+std::optional<std::string> inputBox(const std::string& prompt, const std::string& title,
+                                    const std::string& initial);
+std::optional<std::string> fileDialog(const FileRequest& request);
+std::optional<Color> colorDialog(Color initial, int flags);
+void errorReport(const std::string& text);
+
+void setClipboard(const Picture& picture);
+Picture getClipboard();
+
+/// Makes the toolkit's own texts Dutch.
+void installDutch();
+
+}  // namespace surface::qt

@@ -1,0 +1,141 @@
+// Controls that only show something. A click is a left release inside, as on any control.
+#include "surface/qt/display_widgets.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+#include "surface/qt/art.h"
+#include "surface/qt/button.h"
+#include "surface/qt/images.h"
+#include "surface/qt/text_layout.h"
+#include "surface/qt/windowless.h"
+
+namespace surface::qt {
+namespace {
+
+bool clicks(const QWidget& widget, const QMouseEvent& event) {
+  return event.button() == Qt::LeftButton && widget.rect().contains(event.position().toPoint());
+}
+
+}  // namespace
+
+LabelWidget::LabelWidget(Label& owner, QWidget& parent) : QLabel(&parent), control(&owner) {
+  setTextFormat(Qt::PlainText);
+  setCursor(Qt::ArrowCursor);
+}
+
+void LabelWidget::sync(Aspect aspect) {
+  if (aspect == Aspect::Look) {
+    setFont(toQFont(control->Font));
+    setText(QString::fromStdString(control->Caption));
+    update();
+  }
+  applyCommon(*this, *control, aspect, spoken(control->Caption));
+}
+
+void LabelWidget::paintEvent(QPaintEvent*) {
+  if (!control) return;
+  QPainter painter(this);
+  painter.fillRect(rect(), toQColor(control->BackColor));
+  painter.setFont(font());
+  painter.setPen(toQColor(control->ForeColor));
+  drawCaption(painter, rect(), text(), control->Centred);
+}
+
+// A press that is not taken would go on to the form beneath.
+void LabelWidget::mousePressEvent(QMouseEvent* event) { event->accept(); }
+
+void LabelWidget::mouseReleaseEvent(QMouseEvent* event) {
+  event->accept();
+  if (control && clicks(*this, *event)) dispatch([this] { control->Click(); });
+}
+
+FrameWidget::FrameWidget(Frame& owner, QWidget& parent) : QGroupBox(&parent), control(&owner) {
+  setCursor(Qt::ArrowCursor);
+  makePeers(owner, *this);
+}
+
+void FrameWidget::sync(Aspect aspect) {
+  if (aspect == Aspect::Look) {
+    setFont(toQFont(control->Font));
+    update();
+  }
+  applyCommon(*this, *control, aspect, spoken(control->Caption));
+}
+
+void FrameWidget::paintEvent(QPaintEvent* event) {
+  if (!control) return;
+  QPainter painter(this);
+  painter.fillRect(event->rect(), toQColor(control->BackColor));
+  painter.setFont(font());
+  const QString title = QString::fromStdString(control->Caption);
+  const QFontMetrics metrics = painter.fontMetrics();
+  const QRect edge = rect().adjusted(0, title.isEmpty() ? 0 : metrics.height() / 2, -2, -2);
+  painter.setPen(Qt::white);
+  painter.drawRect(edge.translated(1, 1));
+  painter.setPen(QColor(0x80, 0x80, 0x80));
+  painter.drawRect(edge);
+  if (!title.isEmpty()) {
+    const QRect place(8, 0, metrics.horizontalAdvance(title) + 4, metrics.height());
+    painter.fillRect(place, toQColor(control->BackColor));
+    painter.setPen(Qt::black);
+    painter.drawText(place.left() + 2, metrics.ascent(), title);
+  }
+  paintWindowless(painter, *control);
+}
+
+void FrameWidget::mousePressEvent(QMouseEvent* event) { event->accept(); }
+void FrameWidget::mouseReleaseEvent(QMouseEvent* event) { event->accept(); }
+
+void FramePeer::showPixels(const raster::Rect& area, bool atOnce) {
+  if (!widget_) return;
+  if (atOnce)
+    widget_->repaint(toQRect(area));
+  else
+    widget_->update(toQRect(area));
+}
+
+ImageWidget::ImageWidget(ImageControl& owner, QWidget& parent) : QLabel(&parent), control(&owner) {
+  setCursor(Qt::ArrowCursor);
+}
+
+void ImageWidget::sync(Aspect aspect) {
+  if (aspect == Aspect::Look) {
+    const Picture& own = control->Picture;
+    picture_ = own.empty() ? artPixmap(control->PictureName)
+                           : QPixmap::fromImage(wrapped(*own.bitmap()).copy());
+    update();
+  }
+  applyCommon(*this, *control, aspect);
+}
+
+void ImageWidget::paintEvent(QPaintEvent*) {
+  if (!control) return;
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  const QRect inner = control->Border ? rect().adjusted(2, 2, -2, -2) : rect();
+  painter.drawPixmap(inner, picture_);
+  if (control->Border) drawClassicEdge(painter, rect(), true);
+}
+
+void ImageWidget::mousePressEvent(QMouseEvent* event) { event->accept(); }
+
+void ImageWidget::mouseReleaseEvent(QMouseEvent* event) {
+  event->accept();
+  if (control && clicks(*this, *event)) dispatch([this] { control->Click(); });
+}
+
+ProgressWidget::ProgressWidget(ProgressBar& owner, QWidget& parent)
+    : QProgressBar(&parent), control(&owner) {
+  setTextVisible(false);
+}
+
+void ProgressWidget::sync(Aspect aspect) {
+  if (aspect == Aspect::Value) {
+    setMaximum(control->Max);
+    setValue(control->Value);
+  }
+  applyCommon(*this, *control, aspect);
+}
+
+}  // namespace surface::qt

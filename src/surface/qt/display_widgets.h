@@ -1,0 +1,69 @@
+// Controls that only show something: labels, frames, images and the progress bar.
+#pragma once
+
+#include <QGroupBox>
+#include <QLabel>
+#include <QPixmap>
+#include <QProgressBar>
+
+#include "surface/qt/peers.h"
+
+namespace surface::qt {
+
+class LabelWidget : public QLabel {
+ public:
+  LabelWidget(Label& owner, QWidget& parent);
+  void sync(Aspect aspect);
+
+  Label* control;
+
+ protected:
+  void paintEvent(QPaintEvent*) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+};
+
+class FrameWidget : public QGroupBox {
+ public:
+  FrameWidget(Frame& owner, QWidget& parent);
+  void sync(Aspect aspect);
+
+  Frame* control;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+};
+
+class FramePeer : public WidgetPeer<FrameWidget, SurfacePeer> {
+ public:
+  using WidgetPeer::WidgetPeer;
+  void showPixels(const raster::Rect& area, bool atOnce) override;
+};
+
+class ImageWidget : public QLabel {
+ public:
+  ImageWidget(ImageControl& owner, QWidget& parent);
+  void sync(Aspect aspect);
+
+  ImageControl* control;
+
+ protected:
+  void paintEvent(QPaintEvent*) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+
+ private:
+  QPixmap picture_;
+};
+
+class ProgressWidget : public QProgressBar {
+ public:
+  ProgressWidget(ProgressBar& owner, QWidget& parent);
+  void sync(Aspect aspect);
+
+  ProgressBar* control;
+};
+
+}  // namespace surface::qt

@@ -1,0 +1,123 @@
+// The window of a form: its controls inside, its own drawing beneath them.
+#include "surface/qt/form_window.h"
+
+#include <QCloseEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScreen>
+
+#include "surface/qt/art.h"
+#include "surface/qt/peers.h"
+#include "surface/qt/pointer.h"
+#include "surface/qt/surface_widget.h"
+#include "surface/qt/windowless.h"
+
+namespace surface::qt {
+namespace {
+
+Qt::WindowFlags flagsOf(const Form& form) {
+  Qt::WindowFlags flags = Qt::Window;
+  if (form.Frame == Form::Border::Fixed)
+    flags |= Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+             Qt::WindowCloseButtonHint;
+  if (form.Frame == Form::Border::Tool)
+    flags |= Qt::Tool | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint;
+  if (form.topMost()) flags |= Qt::WindowStaysOnTopHint;
+  return flags;
+}
+
+class FormWindowPeer : public FormPeer {
+ public:
+  explicit FormWindowPeer(Form& form) : window_(new FormWindow(form)) {}
+  ~FormWindowPeer() override {
+    if (!window_) return;
+    window_->form = nullptr;
+    window_->hide();
+    window_->deleteLater();
+  }
+
+  void show() override {
+    if (window_->form->Maximised)
+      window_->showMaximized();
+    else
+      window_->show();
+    window_->raise();
+    window_->activateWindow();
+  }
+  void hide() override { window_->hide(); }
+  void addControl(Control& control) override { makePeerLate(control, *window_); }
+  void update() override { window_->sync(); }
+  void showPixels(const raster::Rect& area, bool atOnce) override {
+    if (atOnce)
+      window_->repaint(toQRect(area));
+    else
+      window_->update(toQRect(area));
+  }
+
+ private:
+  QPointer<FormWindow> window_;
+};
+
+}  // namespace
+
+std::unique_ptr<FormPeer> makeFormPeer(Form& form) {
+  return std::make_unique<FormWindowPeer>(form);
+}
+
+FormWindow::FormWindow(Form& owner) : QWidget(nullptr, flagsOf(owner)), form(&owner) {
+  setAttribute(Qt::WA_OpaquePaintEvent);
+  setWindowIcon(windowIcon());
+  const raster::Rect inner = owner.innerPixels();
+  if (owner.Frame == Form::Border::Sizable)
+    resize(inner.width(), inner.height());
+  else
+    setFixedSize(inner.width(), inner.height());
+  if (owner.Centred) move(screen()->availableGeometry().center() - rect().center());
+  sync();
+  makePeers(owner, *this);
+}
+
+void FormWindow::sync() {
+  setWindowTitle(QString::fromStdString(form->Caption));
+  setCursor(toCursor(form->MousePointer, {}));
+  if (form->placed()) applyPlace();
+  if (form->topMost() != windowFlags().testFlag(Qt::WindowStaysOnTopHint)) {
+    const bool seen = isVisible();
+    setWindowFlags(flagsOf(*form));
+    if (seen) show();
+  }
+}
+
+void FormWindow::applyPlace() {
+  const raster::Rect inner = form->innerPixels();
+  if (form->Frame == Form::Border::Sizable)
+    resize(inner.width(), inner.height());
+  else
+    setFixedSize(inner.width(), inner.height());
+  move(static_cast<int>(form->Left / TwipsPerPixel), static_cast<int>(form->Top / TwipsPerPixel));
+}
+
+void FormWindow::paintEvent(QPaintEvent* event) {
+  if (!form) return;
+  QPainter painter(this);
+  paintSurface(painter, *form, event->rect());
+  paintWindowless(painter, *form);
+}
+
+void FormWindow::closeEvent(QCloseEvent* event) {
+  // The model decides whether the window goes.
+  event->ignore();
+  if (form) dispatch([this] { form->closeBoxPressed(); });
+}
+
+void FormWindow::resizeEvent(QResizeEvent* event) {
+  if (form && form->Frame == Form::Border::Sizable)
+    form->windowResized(event->size().width(), event->size().height());
+}
+
+void FormWindow::mouseReleaseEvent(QMouseEvent* event) {
+  const auto unitsPerPixel = static_cast<double>(ScaleX(1, ScalePixels, form->ScaleMode()));
+  if (form) dispatch([&] { form->MouseUp(toMouse(*event, unitsPerPixel)); });
+}
+
+}  // namespace surface::qt

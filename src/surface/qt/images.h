@@ -1,0 +1,28 @@
+// Pictures and the toolkit's images: conversion, files, and text turned into dots.
+#pragma once
+
+#include <QImage>
+#include <string>
+
+#include "surface/font.h"
+#include "surface/host.h"
+#include "surface/picture.h"
+
+namespace surface::qt {
+
+/// A copy as a picture object; what is transparent becomes white.
+Picture toPicture(const QImage& image);
+/// The bitmap's own memory as an image, without a copy: valid only while the bitmap lives, and
+/// never to be kept.
+QImage wrapped(const raster::Bitmap& bitmap);
+
+/// Reads a BMP, GIF, JPEG, ICO or CUR file, told by its content. FileNotFound or BadFile.
+Picture loadPicture(const std::string& path);
+/// Writes an uncompressed 24-bit Windows bitmap beside the target and puts it in its place when
+/// every byte is on disk. CannotWrite.
+void savePicture(const Picture& picture, const std::string& path);
+
+/// The text without anti-aliasing and hinting, so that it has the same dots on every machine.
+TextMask rasterText(const Font& font, const std::string& text);
+
+}  // namespace surface::qt

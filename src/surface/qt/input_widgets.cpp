@@ -1,0 +1,159 @@
+// Controls that take input. What the user does goes into the model; what the model changes by
+// itself goes to the widget silently.
+#include "surface/qt/input_widgets.h"
+
+#include <QSignalBlocker>
+
+#include "surface/qt/text_layout.h"
+
+namespace surface::qt {
+namespace {
+
+void applyColors(QWidget& widget, Color back, Color fore) {
+  QPalette palette = widget.palette();
+  palette.setColor(QPalette::Base, toQColor(back));
+  palette.setColor(QPalette::Window, toQColor(back));
+  palette.setColor(QPalette::Text, toQColor(fore));
+  palette.setColor(QPalette::WindowText, toQColor(fore));
+  widget.setPalette(palette);
+}
+
+}  // namespace
+
+TextWidget::TextWidget(TextBox& owner, QWidget& parent) : QLineEdit(&parent), control(&owner) {
+  if (owner.MaxLength > 0) setMaxLength(owner.MaxLength);
+  setFrame(owner.Border);
+  setAlignment(owner.Centred ? Qt::AlignCenter : Qt::AlignLeft);
+  QObject::connect(this, &QLineEdit::textEdited, this, [this](const QString& text) {
+    if (control) dispatch([&] { control->typed(text.toStdString()); });
+  });
+}
+
+void TextWidget::sync(Aspect aspect) {
+  if (aspect == Aspect::Look) {
+    setFont(toQFont(control->Font));
+    applyColors(*this, control->BackColor, control->ForeColor);
+    setReadOnly(control->Locked);
+  }
+  const QString text = QString::fromStdString(control->Text);
+  if (aspect == Aspect::Value && text != this->text()) {
+    setText(text);
+    control->Text.setQuietly(this->text().toStdString());
+  }
+  applyCommon(*this, *control, aspect);
+}
+
+LongTextWidget::LongTextWidget(TextBox& owner, QWidget& parent)
+    : QPlainTextEdit(&parent), control(&owner) {
+  setFrameShape(owner.Border ? QFrame::StyledPanel : QFrame::NoFrame);
+  QObject::connect(this, &QPlainTextEdit::textChanged, this, [this] {
+    if (control) dispatch([&] { control->typed(toPlainText().toStdString()); });
+  });
+}
+
+void LongTextWidget::sync(Aspect aspect) {
+  if (aspect == Aspect::Look) {
+    setFont(toQFont(control->Font));
+    applyColors(*this, control->BackColor, control->ForeColor);
+    setReadOnly(control->Locked);
+  }
+  const QString text = QString::fromStdString(control->Text);
+  if (aspect == Aspect::Value && text != toPlainText()) {
+    const QSignalBlocker quiet(this);
+    setPlainText(text);
+  }
+  applyCommon(*this, *control, aspect);
+}
+
+CheckWidget::CheckWidget(CheckBox& owner, QWidget& parent) : QCheckBox(&parent), control(&owner) {
+  QObject::connect(this, &QCheckBox::clicked, this, [this](bool checked) {
+    if (control) dispatch([&] { control->Value = checked ? 1 : 0; });
+  });
+}
+
+void CheckWidget::sync(Aspect aspect) {
+  if (aspect == Aspect::Look) {
+    setFont(toQFont(control->Font));
+    applyColors(*this, control->BackColor, Black);
+    setText(QString::fromStdString(control->Caption));
+  }
+  if (aspect == Aspect::Value) setChecked(control->Value != 0);
+  applyCommon(*this, *control, aspect, spoken(control->Caption));
+}
+
+OptionWidget::OptionWidget(OptionButton& owner, QWidget& parent)
+    : QRadioButton(&parent), control(&owner) {
+  // The model keeps its options exclusive itself; the toolkit's own rule would refuse to clear the
+  // last one.
+  setAutoExclusive(false);
+  QObject::connect(this, &QRadioButton::clicked, this, [this] {
+    if (!control) return;
+    setChecked(true);
+    dispatch([this] { control->clicked(); });
+  });
+}
+
+void OptionWidget::sync(Aspect aspect) {
+  if (aspect == Aspect::Look) {
+    setFont(toQFont(control->Font));
+    applyColors(*this, control->BackColor, Black);
+    setText(QString::fromStdString(control->Caption));
+  }
+  if (aspect == Aspect::Value) setChecked(control->Value);
+  applyCommon(*this, *control, aspect, spoken(control->Caption));
+}
+
+ComboWidget::ComboWidget(ComboBox& owner, QWidget& parent) : QComboBox(&parent), control(&owner) {
+  QObject::connect(this, &QComboBox::activated, this, [this](int row) {
+    if (control) dispatch([&] { control->picked(row); });
+  });
+}
+
+void ComboWidget::sync(Aspect aspect) {
+  const QSignalBlocker quiet(this);
+  if (aspect == Aspect::Look) {
+    setFont(toQFont(control->Font));
+    clear();
+    for (const std::string& row : control->List()) addItem(QString::fromStdString(row));
+    setCurrentIndex(control->ListIndex);
+  }
+  if (aspect == Aspect::Value) setCurrentIndex(control->ListIndex);
+  applyCommon(*this, *control, aspect);
+}
+
+SliderWidget::SliderWidget(Slider& owner, QWidget& parent)
+    : QSlider(Qt::Horizontal, &parent), control(&owner) {
+  setRange(owner.Min, owner.Max);
+  setPageStep(std::max(1, (owner.Max - owner.Min) / 5));
+  applyColors(*this, owner.BackColor, Black);
+  QObject::connect(this, &QSlider::valueChanged, this, [this](int value) {
+    if (control) dispatch([&] { control->scrolled(value); });
+  });
+}
+
+void SliderWidget::sync(Aspect aspect) {
+  if (aspect == Aspect::Value) {
+    const QSignalBlocker quiet(this);
+    setValue(control->Value);
+    update();
+  }
+  applyCommon(*this, *control, aspect);
+}
+
+ScrollWidget::ScrollWidget(HScrollBar& owner, QWidget& parent)
+    : QScrollBar(Qt::Horizontal, &parent), control(&owner) {
+  setRange(owner.Min, owner.Max);
+  QObject::connect(this, &QScrollBar::valueChanged, this, [this](int value) {
+    if (control) dispatch([&] { control->Value = value; });
+  });
+}
+
+void ScrollWidget::sync(Aspect aspect) {
+  if (aspect == Aspect::Value) {
+    const QSignalBlocker quiet(this);
+    setValue(control->Value);
+  }
+  applyCommon(*this, *control, aspect);
+}
+
+}  // namespace surface::qt

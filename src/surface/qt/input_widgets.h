@@ -1,0 +1,73 @@
+// Controls that take input: text boxes, check and option buttons, drop-down lists, sliders and
+// scroll bars.
+#pragma once
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QRadioButton>
+#include <QScrollBar>
+#include <QSlider>
+
+#include "surface/qt/peers.h"
+
+namespace surface::qt {
+
+class TextWidget : public QLineEdit {
+ public:
+  TextWidget(TextBox& owner, QWidget& parent);
+  void sync(Aspect aspect);
+
+  TextBox* control;
+};
+
+class LongTextWidget : public QPlainTextEdit {
+ public:
+  LongTextWidget(TextBox& owner, QWidget& parent);
+  void sync(Aspect aspect);
+
+  TextBox* control;
+};
+
+class CheckWidget : public QCheckBox {
+ public:
+  CheckWidget(CheckBox& owner, QWidget& parent);
+  void sync(Aspect aspect);
+
+  CheckBox* control;
+};
+
+class OptionWidget : public QRadioButton {
+ public:
+  OptionWidget(OptionButton& owner, QWidget& parent);
+  void sync(Aspect aspect);
+
+  OptionButton* control;
+};
+
+class ComboWidget : public QComboBox {
+ public:
+  ComboWidget(ComboBox& owner, QWidget& parent);
+  void sync(Aspect aspect);
+
+  ComboBox* control;
+};
+
+class SliderWidget : public QSlider {
+ public:
+  SliderWidget(Slider& owner, QWidget& parent);
+  void sync(Aspect aspect);
+
+  Slider* control;
+};
+
+class ScrollWidget : public QScrollBar {
+ public:
+  ScrollWidget(HScrollBar& owner, QWidget& parent);
+  void sync(Aspect aspect);
+
+  HScrollBar* control;
+};
+
+}  // namespace surface::qt

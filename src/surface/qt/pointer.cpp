@@ -1,0 +1,39 @@
+// The numbers by which the model knows buttons, modifier keys and pointer shapes.
+#include "surface/qt/pointer.h"
+
+#include "surface/controls.h"
+#include "surface/qt/art.h"
+
+namespace surface::qt {
+
+Mouse toMouse(const QMouseEvent& event, double unitsPerPixel) {
+  const bool move = event.type() == QEvent::MouseMove;
+  const Qt::MouseButtons buttons = move ? event.buttons() : Qt::MouseButtons(event.button());
+  Mouse mouse;
+  mouse.Button = (buttons & Qt::LeftButton ? 1 : 0) | (buttons & Qt::RightButton ? 2 : 0) |
+                 (buttons & Qt::MiddleButton ? 4 : 0);
+  const Qt::KeyboardModifiers keys = event.modifiers();
+  mouse.Shift = (keys & Qt::ShiftModifier ? 1 : 0) | (keys & Qt::ControlModifier ? 2 : 0) |
+                (keys & Qt::AltModifier ? 4 : 0);
+  const QPoint at = event.position().toPoint();
+  mouse.X = static_cast<float>(at.x() * unitsPerPixel);
+  mouse.Y = static_cast<float>(at.y() * unitsPerPixel);
+  return mouse;
+}
+
+QCursor toCursor(int pointer, const std::string& icon) {
+  switch (pointer) {
+    case PointerCross:
+      return Qt::CrossCursor;
+    case PointerText:
+      return Qt::IBeamCursor;
+    case PointerHourglass:
+      return Qt::WaitCursor;
+    case PointerCustom:
+      return artCursor(icon);
+    default:
+      return Qt::ArrowCursor;
+  }
+}
+
+}  // namespace surface::qt

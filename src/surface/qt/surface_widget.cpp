@@ -1,0 +1,84 @@
+// The sheet on the screen. The bitmap's own memory is painted, without a copy.
+#include "surface/qt/surface_widget.h"
+
+#include <QAccessible>
+#include <QAccessibleWidget>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include "surface/qt/images.h"
+#include "surface/qt/pointer.h"
+#include "surface/qt/windowless.h"
+
+namespace surface::qt {
+namespace {
+
+QAccessibleInterface* makeAccessible(const QString& className, QObject* object) {
+  if (className != "surface::qt::SurfaceWidget") return nullptr;
+  return new QAccessibleWidget(qobject_cast<QWidget*>(object), QAccessible::Graphic);
+}
+
+}  // namespace
+
+void installSurfaceAccessibility() { QAccessible::installFactory(makeAccessible); }
+
+void paintSurface(QPainter& painter, const DrawingSurface& surface, const QRect& area) {
+  if (surface.blank()) {
+    painter.fillRect(area, toQColor(surface.BackColor));
+    return;
+  }
+  const auto bitmap = surface.bitmap();
+  if (!area.isEmpty()) painter.drawImage(area, wrapped(*bitmap), area);
+}
+
+SurfaceWidget::SurfaceWidget(PictureBox& owner, QWidget& parent)
+    : QWidget(&parent), control(&owner) {
+  setAttribute(Qt::WA_OpaquePaintEvent);
+  setMouseTracking(true);
+  makePeers(owner, *this);
+}
+
+void SurfaceWidget::sync(Aspect aspect) {
+  if (aspect == Aspect::Look) setCursor(toCursor(control->MousePointer, control->MouseIcon));
+  applyCommon(*this, *control, aspect);
+}
+
+void SurfaceWidget::paintEvent(QPaintEvent* event) {
+  if (!control) return;
+  QPainter painter(this);
+  paintSurface(painter, *control, event->rect());
+  paintWindowless(painter, *control);
+}
+
+double SurfaceWidget::unitsPerPixel() const { return TwipsPerPixel / control->twipsPerUnit(); }
+
+void SurfaceWidget::mousePressEvent(QMouseEvent* event) {
+  event->accept();
+  if (control) dispatch([&] { control->MouseDown(toMouse(*event, unitsPerPixel())); });
+}
+
+// The second press of a double click is a press like any other: two quick dots are two dots.
+void SurfaceWidget::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(event); }
+
+void SurfaceWidget::mouseMoveEvent(QMouseEvent* event) {
+  event->accept();
+  if (control) dispatch([&] { control->MouseMove(toMouse(*event, unitsPerPixel())); });
+}
+
+void SurfaceWidget::mouseReleaseEvent(QMouseEvent* event) {
+  event->accept();
+  if (control) dispatch([&] { control->MouseUp(toMouse(*event, unitsPerPixel())); });
+  const bool inside = rect().contains(event->position().toPoint());
+  if (control && inside && event->button() == Qt::LeftButton)
+    dispatch([this] { control->Click(); });
+}
+
+void SurfaceWidgetPeer::showPixels(const raster::Rect& area, bool atOnce) {
+  if (!widget_) return;
+  if (atOnce)
+    widget_->repaint(toQRect(area));
+  else
+    widget_->update(toQRect(area));
+}
+
+}  // namespace surface::qt

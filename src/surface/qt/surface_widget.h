@@ -1,0 +1,41 @@
+// The widget of a picture box: shows its bitmap, and brings the pointer to it.
+#pragma once
+
+#include <QWidget>
+
+#include "surface/qt/peers.h"
+
+namespace surface::qt {
+
+class SurfaceWidget : public QWidget {
+  Q_OBJECT  // its class name tells a screen reader that it is a drawing
+
+      public : SurfaceWidget(PictureBox& owner, QWidget& parent);
+  void sync(Aspect aspect);
+
+  PictureBox* control;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+
+ private:
+  double unitsPerPixel() const;
+};
+
+class SurfaceWidgetPeer : public WidgetPeer<SurfaceWidget, SurfacePeer> {
+ public:
+  using WidgetPeer::WidgetPeer;
+  void showPixels(const raster::Rect& area, bool atOnce) override;
+};
+
+/// Paints a surface's bitmap, or its bare colour as long as nothing was drawn.
+void paintSurface(QPainter& painter, const DrawingSurface& surface, const QRect& area);
+
+/// Tells the accessibility layer about drawing surfaces; once, at the start.
+void installSurfaceAccessibility();
+
+}  // namespace surface::qt

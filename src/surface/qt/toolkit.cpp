@@ -1,0 +1,126 @@
+// The start of the program inside the toolkit.
+#include "surface/qt/toolkit.h"
+
+#include <QApplication>
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFileInfo>
+#include <QLocale>
+#include <QRandomGenerator>
+#include <QStandardPaths>
+#include <QTimer>
+#include <algorithm>
+#include <string>
+
+#include "surface/app.h"
+#include "surface/dispatch.h"
+#include "surface/form.h"
+#include "surface/host.h"
+#include "surface/numbers.h"
+#include "surface/qt/art.h"
+#include "surface/qt/dialogs.h"
+#include "surface/qt/form_window.h"
+#include "surface/qt/images.h"
+#include "surface/qt/surface_widget.h"
+#include "surface/timer.h"
+
+namespace surface::qt {
+namespace {
+
+std::int64_t milliseconds() {
+  static QElapsedTimer clock = [] {
+    QElapsedTimer started;
+    started.start();
+    return started;
+  }();
+  return clock.elapsed();
+}
+
+// One toolkit timer for all of the model's, set to the one that is due next.
+void scheduleTimers() {
+  static auto* alarm = [] {
+    auto* made = new QTimer(QCoreApplication::instance());
+    made->setSingleShot(true);
+    made->setTimerType(Qt::PreciseTimer);
+    QObject::connect(made, &QTimer::timeout, [] { fireDueTimers(); });
+    return made;
+  }();
+  if (const auto due = nextTimerDue())
+    alarm->start(static_cast<int>(std::max<std::int64_t>(0, *due - milliseconds())));
+  else
+    alarm->stop();
+}
+
+// The folder of the path that was typed, with links left as they are: an installed launcher gives
+// each user a folder of his own.
+std::string folderOf(const char* typed) {
+  QString path = QString::fromLocal8Bit(typed);
+  if (!path.contains('/')) path = QStandardPaths::findExecutable(path);
+  return QFileInfo(path).absolutePath().toStdString();
+}
+
+std::string joined(int argc, char** argv) {
+  std::string all;
+  for (int i = 1; i < argc; ++i) all += (i > 1 ? " " : "") + std::string(argv[i]);
+  return all;
+}
+
+// The program's pixels are whole: on a screen of 150 % they are shown at 100 %, at 250 % at 200 %.
+void keepPixelsWhole() {
+  QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::Floor);
+  bool given = false;
+  const double factor = qEnvironmentVariable("QT_SCALE_FACTOR").toDouble(&given);
+  if (given) qputenv("QT_SCALE_FACTOR", QByteArray::number(std::max(1, static_cast<int>(factor))));
+}
+
+}  // namespace
+
+void install() {
+  QApplication::setStyle("Fusion");
+  QPalette palette = QApplication::palette();
+  palette.setColor(QPalette::ToolTipBase, QColor(0xFF, 0xFF, 0xE1));
+  palette.setColor(QPalette::ToolTipText, Qt::black);
+  QApplication::setPalette(palette);
+  QApplication::setQuitOnLastWindowClosed(false);
+  installDutch();
+  installSurfaceAccessibility();
+  setDecimalSeparator(QLocale::system().decimalPoint() == "," ? ',' : '.');
+
+  Host& seams = host();
+  seams.makeForm = makeFormPeer;
+  seams.msgBox = msgBox;
+  seams.inputBox = inputBox;
+  seams.fileDialog = fileDialog;
+  seams.colorDialog = colorDialog;
+  seams.loadPicture = loadPicture;
+  seams.savePicture = savePicture;
+  seams.artPicture = artPicture;
+  seams.setClipboard = setClipboard;
+  seams.getClipboard = getClipboard;
+  seams.rasterText = rasterText;
+  seams.clock = milliseconds;
+  seams.seed = [] { return QRandomGenerator::global()->generate64(); };
+  seams.timersChanged = scheduleTimers;
+  seams.errorReport = errorReport;
+  seams.leaveEventLoop = [] { QCoreApplication::exit(0); };
+}
+
+int run(int argc, char** argv, const std::function<void()>& start) {
+  app().Path = folderOf(argv[0]);
+  app().Command = joined(argc, argv);
+  // The limit on a picture's memory is the program's own.
+  qunsetenv("QT_IMAGEIO_MAXALLOC");
+  keepPixelsWhole();
+  // The toolkit gets none of the command line: all of it names a picture.
+  int onlyName = 1;
+  QApplication application(onlyName, argv);
+  install();
+  QTimer::singleShot(0, [&start] { dispatch(start); });
+  const int status = QApplication::exec();
+  FormRegistry::instance().clear();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  return status;
+}
+
+}  // namespace surface::qt
