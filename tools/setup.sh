@@ -37,12 +37,16 @@ need_packages() {
       die "These packages are missing, and neither root nor sudo is there to install them: $missing"
     as_root=(sudo)
   fi
-  say "installing: $missing"
+  local log=$top/build/packages.log
+  mkdir -p "$top/build"
+  say "installing (what apt-get says goes to build/packages.log): $missing"
   local apt=("${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -q -o DPkg::Lock::Timeout=600)
-  "${apt[@]}" update >&2 || say "the package lists could not be renewed; trying with those at hand"
+  "${apt[@]}" update >"$log" 2>&1 || say "the package lists could not be renewed; trying with those at hand"
   # shellcheck disable=SC2086 # one word for each package
-  "${apt[@]}" install -y --no-install-recommends $missing </dev/null >&2 ||
-    die "Could not install these packages (what apt-get said stands above): $missing"
+  if ! "${apt[@]}" install -y --no-install-recommends $missing </dev/null >>"$log" 2>&1; then
+    tail -n 12 "$log" >&2
+    die "These packages could not be installed; what apt-get said stands above: $missing"
+  fi
 }
 
 # cached PRESET NAME: the value that the build folder of the preset holds for a cache variable.

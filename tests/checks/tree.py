@@ -2,6 +2,7 @@
 
 A check is a function that takes a Tree and yields faults as texts. A Tree can be read from a folder or made up by a test."""
 import pathlib
+import shutil
 import subprocess
 import sys
 
@@ -28,10 +29,11 @@ class Tree:
 
 def listed(root):
     """The paths that git tracks or would track; every file where there is no git."""
-    git = subprocess.run(["git", "-C", str(root), "ls-files", "-z", "-co", "--exclude-standard"],
-                         stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, check=False)
-    if git.returncode == 0 and git.stdout:
-        return sorted(set(git.stdout.decode().split("\0")) - {""})
+    if shutil.which("git"):
+        git = subprocess.run(["git", "-C", str(root), "ls-files", "-z", "-co", "--exclude-standard"],
+                             stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, check=False)
+        if git.returncode == 0 and git.stdout:
+            return sorted(set(git.stdout.decode().split("\0")) - {""})
     return sorted(p.relative_to(root).as_posix() for p in root.rglob("*")
                   if not NOT_OURS & set(p.relative_to(root).parts))
 
