@@ -5,7 +5,6 @@ fills it and draws its inner edge in ink, `ring` puts the ink around it, `put` o
 """
 import math
 import pathlib
-import random
 
 HERE = pathlib.Path(__file__).resolve().parent
 INK, PAPER, RED, ORANGE, SUN, GRASS, LEAF = "#1b1b2f", "#ffffff", "#e63946", "#ff8c42", "#ffd23f", "#57b947", "#2e8b3d"
@@ -51,11 +50,6 @@ def oval(x0, y0, x1, y1):
     cx, cy, rx, ry = (x0 + x1) / 2, (y0 + y1) / 2, (x1 - x0 + 1) / 2, (y1 - y0 + 1) / 2
     return {(x, y) for x in range(x0, x1 + 1) for y in range(y0, y1 + 1)
             if ((x - cx) / rx) ** 2 + ((y - cy) / ry) ** 2 <= 1 - .02 / max(rx, ry)}
-
-
-def disc(cx, cy, r):
-    return {(x, y) for x in range(int(cx - r) - 1, int(cx + r) + 2) for y in range(int(cy - r) - 1, int(cy + r) + 2)
-            if (x - cx) ** 2 + (y - cy) ** 2 <= r * r}
 
 
 def near(s, corners=False):
@@ -484,7 +478,7 @@ def stamps():
     yield stamp(fall)
     yield stamp(plus)
     yield stamp(plus | rise | fall)
-    yield stamp(disc(0, 0, 5))
+    yield stamp({(x, y) for x, y in rect(-5, -5, 5, 5) if x * x + y * y <= 29})     # radius 5, its edge rounded outwards
     yield stamp(rect(-5, -5, 5, 5))
     yield stamp(up)
     yield stamp({(x, -y) for x, y in up})
