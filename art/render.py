@@ -109,7 +109,7 @@ def main(wanted):
         if not wanted or svg.stem in wanted:
             page(svg)
     hot_spots = HERE / "pictures" / "cursors.txt"
-    if hot_spots.exists():
+    if not (OUT / "cursors.txt").exists() or (OUT / "cursors.txt").read_bytes() != hot_spots.read_bytes():
         shutil.copyfile(hot_spots, OUT / "cursors.txt")
     listing = HERE / "pictures.txt"
     if not listing.exists():
