@@ -75,16 +75,17 @@ class Control:
     @property
     def text(self):
         """The contents of a text field."""
-        return self.node.get_text_iface().get_text(0, -1)
+        return self.desktop.atspi.Text.get_text(self.node, 0, -1)
 
     @property
     def value(self):
-        return self.node.get_value_iface().get_current_value()
+        return self.desktop.atspi.Value.get_current_value(self.node)
 
     @property
     def rectangle(self):
         """(left, top, width, height) on the screen."""
-        box = self.node.get_component_iface().get_extents(self.desktop.atspi.CoordType.SCREEN)
+        atspi = self.desktop.atspi
+        box = atspi.Component.get_extents(self.node, atspi.CoordType.SCREEN)
         return box.x, box.y, box.width, box.height
 
     @property
@@ -189,6 +190,8 @@ class Desktop:
             stop(program.process)
         for process in reversed(self.helpers):
             stop(process)
+            if process.stdout:
+                process.stdout.close()
         shutil.rmtree(self.folder, ignore_errors=True)
 
     # The pointer and the keyboard

@@ -1,10 +1,11 @@
 """The ways of KrasPret for the tests and the tour: from screen to screen, tools, colours, saving, answers."""
 import os
-import time
+import pathlib
 
 import driver
 import pixels
 
+BUILT = pathlib.Path(__file__).resolve().parents[2] / "build/release/kraspret/kraspret"
 MENU = "KRAS PRET"
 STUDIO = "KRAS PRET - TEKENEN GROOT"
 QUIT_QUESTION = "Spijtig - berichtje"
@@ -37,9 +38,8 @@ class KrasPret(driver.Program):
 
     def wait_menu(self):
         """The window of the menu, once its buttons are there."""
-        window = self.wait_window(MENU)
-        self.control("Stoppen")
-        return window
+        self.control("Stoppen")  # the intro's window has the same title
+        return self.wait_window(MENU)
 
     def name_field(self):
         return driver.until(lambda: next((c for c in self.controls() if c.role == "text" and c.enabled), None), "name field")
@@ -162,9 +162,6 @@ class KrasPret(driver.Program):
 
 
 def start(desktop, *arguments):
-    """Starts the program that the environment names."""
-    return KrasPret(desktop, os.environ["KRASPRET_PROGRAM"], *arguments)
-
-
-def seconds_since(moment):
-    return time.monotonic() - moment
+    """Starts the program that the environment names, or else the release build."""
+    program = os.environ.get("KRASPRET_PROGRAM", BUILT)
+    return KrasPret(desktop, os.path.abspath(program), *arguments)

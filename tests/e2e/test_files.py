@@ -189,4 +189,4 @@ class PictureAtTheStart(Files):
 
 
 if __name__ == "__main__":
-    unittest.main(verbosity=2)
+    unittest.main()
