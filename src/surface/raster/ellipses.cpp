@@ -18,7 +18,7 @@ class Quarter {
         b_(ry),
         a2_(rx * rx),
         b2_(ry * ry),
-        limit_(rx * rx * ry * ry),
+        limit_((rx * rx) * (ry * ry)),
         ratio_(rx / ry),
         rows_(static_cast<int>(std::floor(ry + 0.5))) {}
 

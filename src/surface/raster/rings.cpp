@@ -30,7 +30,8 @@ class Rim {
   double at(double y) {
     if (!exists_) return -1;
     if (a_ == b_) return circleAt(y);
-    if (y > rise(high_) + kSlack) return -1;
+    const double below = rise(high_) - y;
+    if (below < kSlack) return below < -kSlack ? -1 : 0;
     const double s = solve(y);
     return std::max(0.0, std::sqrt((1 - s) * (1 + s)) * (a_ + offset_ * b_ / gradient(s)));
   }
@@ -106,7 +107,7 @@ Rect wideEllipse(const SpanPainter& ring, const SpanPainter& inside, Bitmap& bit
   Rim outer(rx, ry, half), inner(rx, ry, -half);
   const Rows distances = visibleDistances(bitmap, cy, even, rows);
   for (int j = distances.first; j <= distances.last; ++j) {
-    const int reach = std::max(even, reachWithin(outer.at(j - 0.5 * even), even));
+    const int reach = reachWithin(outer.at(j - 0.5 * even), even);
     const int hole = reachBefore(inner.at(j - 0.5 * even), even);
     forBothRows(bitmap, cy, even, j, [&](int y) {
       if (hole < even) return ring.span(y, cx - reach, cx + reach - even);
