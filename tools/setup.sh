@@ -13,7 +13,7 @@ packages_screen=(xvfb openbox xdotool at-spi2-core dbus python3 python3-gi gir1.
 packages_test=(libgtest-dev libgmock-dev "${packages_screen[@]}")
 packages_bench=(libbenchmark-dev pkg-config libcairo2-dev libopencv-dev libagg-dev libsdl2-gfx-dev
   "${packages_screen[@]}")
-packages_ci=(clang-format)
+packages_ci=(clang-format clang-tidy)
 
 say() { printf '%s\n' "== $*" >&2; }
 die() { printf '%s\n' "$*" >&2; exit 1; }
