@@ -11,7 +11,7 @@ frmIntro::frmIntro()
             .Width = 7620,
             .Height = 6090,
             .Centred = true,
-            .Frame = Border::Fixed}) {
+            .BorderStyle = Border::Fixed}) {
   Timer1.Timer = [this] { Timer1_Timer(); };
 }
 

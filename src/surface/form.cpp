@@ -29,7 +29,7 @@ Form::Form(const Design& design)
       Height(*this, design.Height + FrameHeight),
       Maximised(design.Maximised),
       Centred(design.Centred),
-      Frame(design.Frame) {
+      BorderStyle(design.BorderStyle) {
   setInnerSize(innerPixel(Width, FrameWidth), innerPixel(Height, FrameHeight));
 }
 

@@ -41,7 +41,7 @@ class Form : public DrawingSurface, public Container {
     Color BackColor = ButtonFace;
     float Width = 12000, Height = 9000;  ///< inner size at design, twips
     bool Maximised = false, Centred = false;
-    Border Frame = Border::Sizable;
+    Border BorderStyle = Border::Sizable;
     ScaleUnit ScaleMode = ScaleTwips;
   };
   explicit Form(const Design& design);
@@ -56,7 +56,7 @@ class Form : public DrawingSurface, public Container {
   Prop<float, &Form::placeChanged, check::length> Width;
   Prop<float, &Form::placeChanged, check::length> Height;
   const bool Maximised, Centred;
-  const Border Frame;
+  const Border BorderStyle;
 
   Event<> Load;
   Event<> FormUnload;

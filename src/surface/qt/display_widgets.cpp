@@ -13,6 +13,9 @@
 namespace surface::qt {
 namespace {
 
+// Keeps the letters of a label on a dark ground off its edge.
+constexpr int Inset = 2;
+
 bool clicks(const QWidget& widget, const QMouseEvent& event) {
   return event.button() == Qt::LeftButton && widget.rect().contains(event.position().toPoint());
 }
@@ -39,7 +42,7 @@ void LabelWidget::paintEvent(QPaintEvent*) {
   painter.fillRect(rect(), toQColor(control->BackColor));
   painter.setFont(font());
   painter.setPen(toQColor(control->ForeColor));
-  drawCaption(painter, rect(), text(), control->Centred);
+  drawCaption(painter, rect().adjusted(Inset, 0, -Inset, 0), text(), control->Centred);
 }
 
 // A press that is not taken would go on to the form beneath.

@@ -17,10 +17,10 @@ namespace {
 
 Qt::WindowFlags flagsOf(const Form& form) {
   Qt::WindowFlags flags = Qt::Window;
-  if (form.Frame == Form::Border::Fixed)
+  if (form.BorderStyle == Form::Border::Fixed)
     flags |= Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
              Qt::WindowCloseButtonHint;
-  if (form.Frame == Form::Border::Tool)
+  if (form.BorderStyle == Form::Border::Tool)
     flags |= Qt::Tool | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint;
   if (form.topMost()) flags |= Qt::WindowStaysOnTopHint;
   return flags;
@@ -68,7 +68,7 @@ FormWindow::FormWindow(Form& owner) : QWidget(nullptr, flagsOf(owner)), form(&ow
   setAttribute(Qt::WA_OpaquePaintEvent);
   setWindowIcon(windowIcon());
   const raster::Rect inner = owner.innerPixels();
-  if (owner.Frame == Form::Border::Sizable)
+  if (owner.BorderStyle == Form::Border::Sizable)
     resize(inner.width(), inner.height());
   else
     setFixedSize(inner.width(), inner.height());
@@ -90,7 +90,7 @@ void FormWindow::sync() {
 
 void FormWindow::applyPlace() {
   const raster::Rect inner = form->innerPixels();
-  if (form->Frame == Form::Border::Sizable)
+  if (form->BorderStyle == Form::Border::Sizable)
     resize(inner.width(), inner.height());
   else
     setFixedSize(inner.width(), inner.height());
@@ -111,7 +111,7 @@ void FormWindow::closeEvent(QCloseEvent* event) {
 }
 
 void FormWindow::resizeEvent(QResizeEvent* event) {
-  if (form && form->Frame == Form::Border::Sizable)
+  if (form && form->BorderStyle == Form::Border::Sizable)
     form->windowResized(event->size().width(), event->size().height());
 }
 

@@ -1,0 +1,20 @@
+// Pictures from and to disk in the large studio.
+#include "files/bestand.h"
+#include "studio/frmTekenen2.h"
+
+using namespace surface;
+
+void frmTekenen2::cmdSaveAs_Click() {
+  lblModus.Caption = "je tekening in de computer OPSLAAN (=bewaren voor later)";
+  cmdUndo.Enabled = true;
+  bewaarTekening(CommonDialog2, picBlad);
+}
+
+void frmTekenen2::cmdOpenbestand_Click() {
+  lblModus.Caption = "een BESTAANDE tekening uit je computer OPENEN";
+  cmdUndo.Enabled = true;
+  if (MsgBox("Wil je de huidige tekening opslaan ?", YesNo, "Opslaan") == Yes) cmdSaveAs_Click();
+  trapAndLeave([&] { picBlad.Picture = LoadPicture(kiesBestand(CommonDialog2)); });
+}
+
+void frmTekenen2::LoadCommandLine() { opdrachtregelNaarBlad(picBlad); }

@@ -1,0 +1,25 @@
+// Fill, pattern fill and colour pick: all three act at the press, before the snapshot for undo.
+#include "studio/frmTekenen2.h"
+
+using namespace surface;
+
+void frmTekenen2::Opvullen(const Mouse& at) {
+  picBlad.FillColor = picBlad.ForeColor;
+  picBlad.FillStyle = 0;
+  const Color c = picBlad.Point({at.X, at.Y});
+  ExtFloodFill(picBlad.hDC(), toInt32(at.X), toInt32(at.Y), c, FloodFillSurface);
+  picBlad.FillStyle = 1;
+  picBlad.FillColor = Shape1.FillColor;
+}
+
+// In the FillColor that the pointer's way to the sheet has set.
+void frmTekenen2::PatroonVullen(const Mouse& at) {
+  picBlad.FillStyle = Patroon;
+  const Color c = picBlad.Point({at.X, at.Y});
+  ExtFloodFill(picBlad.hDC(), toInt32(at.X), toInt32(at.Y), c, FloodFillSurface);
+}
+
+void frmTekenen2::KleurKiezen(const Mouse& at) {
+  Shape1.FillColor = picBlad.Point({at.X, at.Y});
+  picBlad.ForeColor = picBlad.Point({at.X, at.Y});
+}

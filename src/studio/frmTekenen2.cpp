@@ -1,0 +1,210 @@
+// The frame of the large studio: load, tools, panels closing, leaving.
+#include "studio/frmTekenen2.h"
+
+#include <array>
+
+#include "shell/frmStart.h"
+#include "studio/frmLineaalH.h"
+#include "studio/frmLineaalV.h"
+#include "studio/modTekenen.h"
+
+using namespace surface;
+
+namespace {
+
+// What choosing a tool sets.
+struct ToolRow {
+  std::int16_t number;
+  int pointer;
+  ImageControl frmTekenen2::*icon;
+  bool undo;
+  const char* message;
+};
+
+constexpr int Own = PointerCustom, Cross = PointerCross;
+
+const std::array<ToolRow, 15> ToolTable = {{
+    {1, Own, &frmTekenen2::curPen, true, "VRIJE HAND : willekeurige lijnen tekenen"},
+    {2, Own, &frmTekenen2::curPen, true, "je bent bezig met LIJNEN TREKKEN"},
+    {3, Cross, nullptr, true, "je tekent nu een LEGE RECHTHOEK"},
+    {4, Cross, nullptr, true, "je tekent nu een GEVULDE RECHTHOEK"},
+    {5, Cross, nullptr, true, "LEGE cirkels maken : stel eerst de diameter in"},
+    {6, Own, &frmTekenen2::curVullen, false, "je kunt nu vlakken in je tekening OPVULLEN"},
+    {7, Cross, nullptr, false, "een kleur vanuit de afbeelding zelf kiezen"},
+    {8, PointerText, nullptr, true, "klik op de plaats WAAR je de tekst op het blad wil"},
+    {9, Own, &frmTekenen2::curBrush, true, "figuurtjes tekenen met het SPUITBUSJE"},
+    {10, Own, &frmTekenen2::curBrush, true,
+     "KUNSTLIJNEN maken - willekeurige kleuren - lijndikte kan aangepast"},
+    {11, Cross, nullptr, true, "GEVULDE cirkels maken : stel eerst de diameter in"},
+    {12, Cross, nullptr, true, "je tekent nu een     LEGE ELLIPS     (=ovaal, eivorm)"},
+    {13, Cross, nullptr, true, "je tekent nu een GEVULDE ELLIPS (=ovaal, eivorm)"},
+    {19, Own, &frmTekenen2::curDrop, false,
+     "kies een lijn om vlakken in je tekening mee op te vullen"},
+    {20, Own, &frmTekenen2::curPen, true, "een punt of lijn tekenen met figuurtjes"},
+}};
+
+}  // namespace
+
+frmTekenen2::frmTekenen2() {
+  Load = [this] { Form_Load(); };
+  MouseUp = [this](const Mouse& at) { Form_MouseUp(at); };
+  // Leaving by the close box is leaving: the rulers go too, and the menu comes back.
+  CloseBox = [this] { cmdEinde_Click(); };
+  WireTools();
+  WireSheet();
+  WireRest();
+}
+
+void frmTekenen2::WireTools() {
+  cmdTekenen.Click = [this] { ChooseToolClosingPanels(1); };
+  cmdLijn.Click = [this] { ChooseToolClosingPanels(2); };
+  cmdRechthoek.Click = [this] { ChooseToolClosingPanels(3); };
+  cmdRechthoekgevuld.Click = [this] { ChooseToolClosingPanels(4); };
+  cmdCirkel.Click = [this] { ChooseToolClosingPanels(5); };
+  cmdSpuitbus.Click = [this] { ChooseToolClosingPanels(9); };
+  cmdCirkelGevuld.Click = [this] { ChooseToolClosingPanels(11); };
+  cmdEllips.Click = [this] { ChooseToolClosingPanels(12); };
+  cmdEllipsGevuld.Click = [this] { ChooseToolClosingPanels(13); };
+  cmdOpvullen.Click = [this] { ChooseTool(6); };
+  cmdDrop.Click = [this] { ChooseTool(7); };
+  cmdTekst.Click = [this] { ChooseTool(8); };
+  cmdArt.Click = [this] { ChooseTool(10); };
+  for (int i = 0; i < Option5.count(); ++i) Option5(i).Click = [this, i] { Option5_Click(i); };
+  PictureBox* const stamps[] = {&picBorstel1, &picBorstel2,  &picBorstel3,  &picBorstel4,
+                                &picBorstel5, &picBorstel6,  &picBorstel7,  &picBorstel8,
+                                &picBorstel9, &picBorstel10, &picBorstel11, &picBorstel12,
+                                &picBorstel13};
+  int number = 0;
+  for (PictureBox* stamp : stamps) stamp->Click = [this, n = ++number] { picBorstel_Click(n); };
+}
+
+void frmTekenen2::WireSheet() {
+  picBlad.MouseDown = [this](const Mouse& at) { picBlad_MouseDown(at); };
+  picBlad.MouseMove = [this](const Mouse& at) { picBlad_MouseMove(at); };
+  picBlad.MouseUp = [this](const Mouse& at) { picBlad_MouseUp(at); };
+  picPalet.MouseDown = [this](const Mouse& at) { picPalet_MouseDown(at); };
+  picPalet.MouseMove = [this](const Mouse& at) { picPalet_MouseMove(at); };
+  picPalet.MouseUp = [this](const Mouse& at) { picPalet_MouseUp(at); };
+  cmdPalet.Click = [this] { cmdPalet_Click(); };
+  Picture3.Click = [this] { KiesVerloopkleur(Picture3); };
+  Picture4.Click = [this] { KiesVerloopkleur(Picture4); };
+}
+
+void frmTekenen2::WireRest() {
+  cmdLijnen.Click = [this] { cmdLijnen_Click(); };
+  cmdGommen.Click = [this] { cmdGommen_Click(); };
+  cmdLineaal.Click = [this] { cmdLineaal_Click(); };
+  cmdVulling.Click = [this] {
+    OpenPanel(fraVulling, "hulpkader : kies een soort lijn om een vlak mee op te vullen");
+  };
+  cmdBorstels.Click = [this] {
+    OpenPanel(fraBorstels, "hulpkader : kies een soort borstel om met figuren te tekenen");
+  };
+  cmdGradient.Click = [this] {
+    OpenPanel(fraGradient, "hulpkader : van kleur 1 naar kleur 2 de achtergrond schakeren");
+  };
+  cmdEffecten.Click = [this] {
+    OpenPanel(fraEffecten, "hulpkader : kies een effect om je tekening te veranderen");
+  };
+  Slider1.Scroll = [this] { Slider1_Scroll(); };
+  Slider2.Scroll = [this] { Slider2_Scroll(); };
+  Slider3.Scroll = [this] { Slider3_Scroll(); };
+  cboStijl.Click = [this] { cboStijl_Click(); };
+  cmdGom.Click = [this] { cmdGom_Click(); };
+  picGommen.Click = [this] { picGommen_Click(); };
+  cmdUndo.Click = [this] { cmdUndo_Click(); };
+  cmdRedo.Click = [this] { cmdRedo_Click(); };
+  cmdClear.Click = [this] { cmdClear_Click(); };
+  cmdNieuw.Click = [this] { cmdNieuw_Click(); };
+  cmdFormaat.Click = [this] { cmdFormaat_Click(); };
+  Option1.Click = [this] { Option1_Click(); };
+  Option2.Click = [this] { Option2_Click(); };
+  Option3.Click = [this] { Option3_Click(); };
+  Option4.Click = [this] { Option4_Click(); };
+  cmdKnippen.Click = [this] { cmdKnippen_Click(); };
+  cmdCopy.Click = [this] { cmdCopy_Click(); };
+  cmdPlakken.Click = [this] { cmdPlakken_Click(); };
+  cmdSaveAs.Click = [this] { cmdSaveAs_Click(); };
+  cmdOpenbestand.Click = [this] { cmdOpenbestand_Click(); };
+  cmdEinde.Click = [this] { cmdEinde_Click(); };
+}
+
+void frmTekenen2::Form_Load() { StartAnew(Sheet::White); }
+
+void frmTekenen2::StartAnew(Sheet sheet) {
+  FirstTool();
+  if (sheet == Sheet::White) picBlad.BackColor = White;
+  lblModus.Caption = "we wensen je veel succes toe met je tekening";
+  ZoomOpen = 0;
+  Randomize();
+  const float R = Rnd() * 255;
+  const float G = Rnd() * 255;
+  const float B = Rnd() * 255;
+  BeginBlauw = B;
+  kunst.start(R, G, B, picBlad.Width / 15 / 2, picBlad.Height / 15 / 2);
+  ProgressMax = 50;
+  SetProgressMax();
+  Timer2.Enabled = false;
+  Timer2.Interval = 100;
+  picUndo.Picture = picBlad.Image();
+  LoadCommandLine();
+}
+
+void frmTekenen2::FirstTool() {
+  Gereedschap = 1;
+  picBlad.MousePointer = PointerCustom;
+  picBlad.MouseIcon = curPen.PictureName;
+  picBlad.DrawWidth = 1;
+  picBlad.ForeColor = Black;
+  Shape1.FillColor = Black;
+  Line2.BorderWidth = Slider1.Value;
+  Line3.BorderWidth = Slider3.Value;
+  cboStijl.ListIndex = 0;
+  picBlad.DrawStyle = cboStijl.ListIndex;
+  Slider2.Value = 3;
+  lblStraal.Caption = toText(Slider2.Value.get());
+}
+
+void frmTekenen2::ClosePanels() {
+  for (Frame* panel :
+       {&fraEffecten, &fraVulling, &fraBorstels, &fraGradient, &fraLineaal, &fraLijnen, &fraGommen})
+    if (panel->Visible) panel->Visible = false;
+  FirstTool();
+}
+
+void frmTekenen2::ApplyTool() {
+  for (const ToolRow& row : ToolTable) {
+    if (row.number != Gereedschap) continue;
+    picBlad.MousePointer = row.pointer;
+    if (row.icon) picBlad.MouseIcon = (this->*row.icon).PictureName;
+    lblModus.Caption = row.message;
+    cmdUndo.Enabled = row.undo;
+  }
+  if (Gereedschap == 19) picBlad.ForeColor = Shape1.FillColor;
+  if (Gereedschap == 20) picBlad.DrawWidth = 1;
+}
+
+void frmTekenen2::SetProgressMax() { ProgressBar1.Max = ProgressMax; }
+
+void frmTekenen2::Slider2_Scroll() {
+  lblModus.Caption = "hiermee verandert de DIAMETER (doorsnede) van de CIRKEL";
+  lblStraal.Caption = toText(Slider2.Value.get());
+}
+
+// A release on the bare form around the sheet draws on the form itself.
+void frmTekenen2::Form_MouseUp(const Mouse& at) {
+  if (Gereedschap != 2 && Gereedschap != 3 && Gereedschap != 4) return;
+  if (Teller != 0 && BeginBlauw != 0) {
+    const BoxFlag flag = Gereedschap == 2 ? BoxFlag::None : Gereedschap == 3 ? B : BF;
+    Line({Teller, BeginBlauw}, {at.X, at.Y}, ForeColor, flag);
+  }
+  Teller = 0;
+  BeginBlauw = 0;
+}
+
+void frmTekenen2::cmdEinde_Click() {
+  Unload(the<frmLineaalH>());
+  Unload(the<frmLineaalV>());
+  the<frmStart>().Show();
+  Unload(*this);
+}

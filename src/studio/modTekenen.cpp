@@ -1,0 +1,18 @@
+// Module-level values and routines of the large studio.
+#include "studio/modTekenen.h"
+
+#include "studio/frmTekenen2.h"
+
+using surface::the;
+
+std::int16_t ZoomOpen = 0;
+
+void UndoShift() {
+  auto& studio = the<frmTekenen2>();
+  for (int i = 4; i >= 1; --i) {
+    studio.UndoPic(i).Picture = studio.UndoPic(i - 1).Image();
+    studio.UndoPic(i).Refresh();
+  }
+  studio.UndoPic(0).Picture = studio.picBlad.Image();
+  studio.UndoPic(0).Refresh();
+}

@@ -1,0 +1,50 @@
+// The choice of rulers.
+#include "studio/frmLineaalH.h"
+#include "studio/frmLineaalV.h"
+#include "studio/frmTekenen2.h"
+
+using namespace surface;
+
+namespace {
+
+void toonVerticaal(float left) {
+  auto& ruler = the<frmLineaalV>();
+  ruler.Show();
+  ruler.Left = left;
+  ruler.Top = 120;
+}
+
+void toonHorizontaal(float left) {
+  auto& ruler = the<frmLineaalH>();
+  ruler.Show();
+  ruler.Left = left;
+  ruler.Top = 0;
+}
+
+}  // namespace
+
+void frmTekenen2::Option1_Click() {
+  Option1.Value = true;
+  toonVerticaal(picBlad.Left);
+  fraLineaal.Visible = false;
+}
+
+void frmTekenen2::Option2_Click() {
+  Option2.Value = true;
+  toonHorizontaal(picBlad.Left);
+  fraLineaal.Visible = false;
+}
+
+void frmTekenen2::Option4_Click() {
+  Option4.Value = true;
+  toonVerticaal(picBlad.Left);
+  toonHorizontaal(picBlad.Left);
+  fraLineaal.Visible = false;
+}
+
+void frmTekenen2::Option3_Click() {
+  Option3.Value = true;
+  Unload(the<frmLineaalH>());
+  Unload(the<frmLineaalV>());
+  fraLineaal.Visible = false;
+}
