@@ -12,10 +12,11 @@ namespace {
 using Word = std::uint64_t;
 constexpr int kWordBits = 64;
 
-/// Bit i of the result tells whether p[i] is `color`, for `count` (1..64) pixels.
-Word matches(const Pixel* p, int count, Pixel color) {
-  alignas(8) std::uint8_t equal[kWordBits] = {};
-  for (int i = 0; i < count; ++i) equal[i] = p[i] == color;
+/// Bit i of the result tells whether p[i] is `color`. The number of pixels is a constant, so that
+/// the comparisons become vector instructions.
+Word matchesOfWord(const Pixel* p, Pixel color) {
+  alignas(16) std::uint8_t equal[kWordBits];
+  for (int i = 0; i < kWordBits; ++i) equal[i] = p[i] == color;
   Word bits = 0;
   for (int i = 0; i < 8; ++i) {
     Word eight;
@@ -23,6 +24,13 @@ Word matches(const Pixel* p, int count, Pixel color) {
     // The product gathers the lowest bits of the eight bytes in its top byte.
     bits |= (eight * 0x0102040810204080u >> 56) << (8 * i);
   }
+  return bits;
+}
+
+/// The same for fewer pixels, at the end of a row.
+Word matchesOfRest(const Pixel* p, int count, Pixel color) {
+  Word bits = 0;
+  for (int i = 0; i < count; ++i) bits |= Word{p[i] == color} << i;
   return bits;
 }
 
@@ -37,6 +45,8 @@ Word spreadUp(Word seeds, Word open, Word& carry) {
 
 /// The same towards lower bits, in doubling steps.
 Word spreadDown(Word seeds, Word open) {
+  // Along an upright corridor the row before has seeded its whole width.
+  if (((seeds >> 1) & open & ~seeds) == 0) return seeds;
   for (int step = 1; step < kWordBits; step *= 2) {
     seeds |= open & (seeds >> step);
     open &= open >> step;
@@ -107,11 +117,10 @@ class Flood {
     row.open = scratch_.words.data() + 2 * std::size_t(y) * words_;
     row.seeds = row.open + words_;
     const Pixel* pixels = bitmap_.row(y);
-    for (int i = 0; i < words_; ++i) {
-      const int left = i * kWordBits;
-      row.open[i] = matches(pixels + left, std::min(kWordBits, bitmap_.width() - left), region_);
-      row.seeds[i] = 0;
-    }
+    const int whole = bitmap_.width() / kWordBits;
+    for (int i = 0; i < whole; ++i, pixels += kWordBits) row.open[i] = matchesOfWord(pixels, region_);
+    if (whole < words_) row.open[whole] = matchesOfRest(pixels, bitmap_.width() % kWordBits, region_);
+    std::fill_n(row.seeds, words_, Word{0});
     return row;
   }
 

@@ -1,0 +1,213 @@
+// The stage for form scripts.
+#include "support/script.h"
+
+#include <QApplication>
+#include <QImage>
+#include <QTest>
+#include <QWidget>
+#include <filesystem>
+#include <random>
+
+#include "surface/host.h"
+#include "surface/qt/form_window.h"
+#include "surface/qt/peers.h"
+#include "surface/qt/toolkit.h"
+
+using namespace surface;
+
+namespace script {
+namespace {
+
+Qt::MouseButton toButton(int button) {
+  return button == 2   ? Qt::RightButton
+         : button == 4 ? Qt::MiddleButton
+         : button == 1 ? Qt::LeftButton
+                       : Qt::NoButton;
+}
+
+// The window handle and the point in it of a place on a control.
+struct Target {
+  QWindow* window;
+  QPoint at;
+};
+
+Target targetOf(Control& control, int x, int y) {
+  QWidget* widget = widgetOf(control);
+  if (!widget) return {};
+  QWidget* top = widget->window();
+  return {top->windowHandle(), widget->mapTo(top, QPoint(x, y))};
+}
+
+QWidget* windowOf(Form& form) {
+  for (QWidget* top : QApplication::topLevelWidgets())
+    if (auto* window = dynamic_cast<surface::qt::FormWindow*>(top); window && window->form == &form)
+      return window;
+  ADD_FAILURE() << "the form has no window";
+  return nullptr;
+}
+
+// Everything that was posted meanwhile: repaints, and windows that have gone.
+void settle() {
+  QCoreApplication::sendPostedEvents();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  QCoreApplication::processEvents();
+}
+
+}  // namespace
+
+QWidget* widgetOf(Control& control) {
+  const auto* peer = dynamic_cast<const surface::qt::HasWidget*>(control.peer());
+  QWidget* widget = peer ? peer->widget() : nullptr;
+  if (!widget) ADD_FAILURE() << "the control is not on the screen";
+  return widget;
+}
+
+Stage::Stage() {
+  restart();
+  app().Command.clear();
+  app().Path = ".";
+  seedRandom(1);
+  setDecimalSeparator('.');
+  FormRegistry::instance().noWindowLeft = nullptr;
+  installSeams();
+}
+
+Stage::~Stage() {
+  FormRegistry::instance().clear();
+  settle();
+  if (errorReport_) ADD_FAILURE() << "the program ended with an error report: " << *errorReport_;
+  if (!messages_.empty() || !inputs_.empty() || !files_.empty() || !colors_.empty())
+    ADD_FAILURE() << "an answer was never asked for";
+  if (!folder_.empty()) std::filesystem::remove_all(folder_);
+  surface::qt::install();
+}
+
+void Stage::installSeams() {
+  Host& seams = host();
+  seams.clock = [this] { return now_; };
+  seams.timersChanged = nullptr;
+  seams.leaveEventLoop = nullptr;
+  seams.seed = [] { return std::uint64_t{42}; };
+  seams.errorReport = [this](const std::string& text) { errorReport_ = text; };
+  seams.setClipboard = [this](const Picture& picture) { clipboard = picture; };
+  seams.getClipboard = [this] { return clipboard; };
+  seams.msgBox = [this](const std::string& text, int buttons, const std::string& title) {
+    return take<int>(messages_, buttons & YesNo ? No : Ok, {"message", text, title, buttons});
+  };
+  seams.inputBox = [this](const std::string& prompt, const std::string& title,
+                          const std::string& initial) {
+    return take(inputs_, {}, {"input", prompt, title, 0, initial});
+  };
+  seams.fileDialog = [this](const FileRequest& request) {
+    return take(
+        files_, {},
+        {request.save ? "save" : "open", "", "", 0, "", request.filter, request.filterIndex});
+  };
+  seams.colorDialog = [this](Color initial, int flags) {
+    return take(colors_, {}, {"color", "", "", flags, std::to_string(initial)});
+  };
+}
+
+template <class Answer>
+Answer Stage::take(std::deque<Answer>& answers, Answer otherwise, const Asked& asked) {
+  asked_.push_back(asked);
+  if (answers.empty()) {
+    ADD_FAILURE() << "no answer for the " << asked.kind << " dialog: " << asked.title << ": "
+                  << asked.text;
+    return otherwise;
+  }
+  Answer answer = answers.front();
+  answers.pop_front();
+  return answer;
+}
+
+void Stage::advance(std::int64_t milliseconds) {
+  const std::int64_t until = now_ + milliseconds;
+  while (!ended()) {
+    const auto due = nextTimerDue();
+    if (!due || *due > until) break;
+    now_ = std::max(now_, *due);
+    fireDueTimers();
+  }
+  now_ = until;
+  settle();
+}
+
+std::optional<std::string> Stage::takeErrorReport() {
+  return std::exchange(errorReport_, std::nullopt);
+}
+
+void Stage::press(Control& control, int x, int y, int button) {
+  const Target target = targetOf(control, x, y);
+  if (target.window) QTest::mousePress(target.window, toButton(button), {}, target.at);
+  settle();
+}
+
+void Stage::move(Control& control, int x, int y, int button) {
+  const Target target = targetOf(control, x, y);
+  if (!target.window) return;
+  const QPointF at(target.at);
+  QMouseEvent event(QEvent::MouseMove, at, target.window->mapToGlobal(at), Qt::NoButton,
+                    toButton(button), Qt::NoModifier);
+  QCoreApplication::sendEvent(target.window, &event);
+  settle();
+}
+
+void Stage::release(Control& control, int x, int y, int button) {
+  const Target target = targetOf(control, x, y);
+  if (target.window) QTest::mouseRelease(target.window, toButton(button), {}, target.at);
+  settle();
+}
+
+void Stage::drag(Control& control, int x1, int y1, int x2, int y2, int button) {
+  press(control, x1, y1, button);
+  move(control, (x1 + x2) / 2, (y1 + y2) / 2, button);
+  move(control, x2, y2, button);
+  release(control, x2, y2, button);
+}
+
+void Stage::click(Control& control, int button) {
+  const raster::Rect place = control.pixelPlace();
+  press(control, place.width() / 2, place.height() / 2, button);
+  // The click may have taken the control off the screen, but only at the release.
+  release(control, place.width() / 2, place.height() / 2, button);
+}
+
+void Stage::type(const std::string& text) {
+  if (QWindow* window = QGuiApplication::focusWindow())
+    for (const QChar c : QString::fromStdString(text)) QTest::keyClick(window, c.toLatin1());
+  settle();
+}
+
+void Stage::pressOnForm(Form& form, int x, int y, int button) {
+  QTest::mousePress(windowOf(form)->windowHandle(), toButton(button), {}, {x, y});
+}
+
+void Stage::releaseOnForm(Form& form, int x, int y, int button) {
+  QTest::mouseRelease(windowOf(form)->windowHandle(), toButton(button), {}, {x, y});
+  settle();
+}
+
+void Stage::closeBox(Form& form) {
+  windowOf(form)->close();
+  settle();
+}
+
+QImage Stage::shown(Control& control) {
+  QWidget* widget = widgetOf(control);
+  return widget ? widget->grab().toImage() : QImage();
+}
+
+QImage Stage::shown(Form& form) { return windowOf(form)->grab().toImage(); }
+
+const std::string& Stage::folder() {
+  if (folder_.empty()) {
+    std::random_device random;
+    folder_ = (std::filesystem::temp_directory_path() / ("kraspret-" + std::to_string(random())))
+                  .string();
+    std::filesystem::create_directories(folder_);
+  }
+  return folder_;
+}
+
+}  // namespace script
