@@ -99,7 +99,7 @@ class Program:
     def __init__(self, desktop, program, *arguments):
         self.desktop = desktop
         self.log = desktop.folder / f"program-{len(desktop.programs)}.log"
-        self.process = desktop.start([program, *arguments], self.log)
+        self.process = desktop.start(program, arguments, self.log)
 
     def output(self):
         return self.log.read_text(errors="replace")

@@ -163,5 +163,4 @@ class KrasPret(driver.Program):
 
 def start(desktop, *arguments):
     """Starts the program that the environment names, or else the release build."""
-    program = os.environ.get("KRASPRET_PROGRAM", BUILT)
-    return KrasPret(desktop, os.path.abspath(program), *arguments)
+    return KrasPret(desktop, os.environ.get("KRASPRET_PROGRAM", BUILT), *arguments)

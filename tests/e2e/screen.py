@@ -111,10 +111,10 @@ class Screen:
                 process.stdout.close()
         shutil.rmtree(self.folder, ignore_errors=True)
 
-    def start(self, command, log):
+    def start(self, program, arguments, log):
         """Starts a program before this screen; its words go to the file."""
         with open(log, "wb") as words:
-            process = subprocess.Popen([str(word) for word in command], env=self.env, stdin=subprocess.DEVNULL, stdout=words,
+            process = subprocess.Popen([os.path.abspath(program), *map(str, arguments)], env=self.env, stdin=subprocess.DEVNULL, stdout=words,
                                        stderr=words, cwd=self.folder, preexec_fn=die_with_parent)
         self.programs.append(process)
         return process
@@ -133,6 +133,10 @@ class Screen:
 
     def click(self, x, y, button=1):
         self._xdotool("mousemove", x, y, "sleep", PAUSE, "mousedown", button, "sleep", PAUSE, "mouseup", button, "sleep", PAUSE)
+
+    def click_soon(self, button=1):
+        """Clicks where the pointer stands, without any pause, while the caller goes on. Gives the process that does it."""
+        return subprocess.Popen(["xdotool", "click", str(button)], env=self.env, stdin=subprocess.DEVNULL)
 
     def drag(self, *points, button=1, steps=6):
         """Presses at the first point, goes through the others in a few steps each, and lets go at the last."""
@@ -157,6 +161,12 @@ class Screen:
         """The ids of a process's visible windows with exactly this title, as the window manager has them."""
         found = self._xdotool("search", "--onlyvisible", "--all", "--pid", pid, "--name", f"^{re.escape(title)}$", check=False)
         return [int(line) for line in found.split()]
+
+    def geometry(self, window):
+        """(left, top, width, height) of a window's inside on the screen; None if it has just gone."""
+        found = self._xdotool("getwindowgeometry", "--shell", window, check=False)
+        place = dict(line.split("=") for line in found.split() if "=" in line)
+        return tuple(int(place[name]) for name in ("X", "Y", "WIDTH", "HEIGHT")) if "HEIGHT" in place else None
 
     def close_window(self, window):
         """Closes a window as its close box does, by the window manager's own key."""
