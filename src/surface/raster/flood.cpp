@@ -54,6 +54,41 @@ Word spreadDown(Word seeds, Word open) {
   return seeds;
 }
 
+/// For each four bits, which of four pixels they mean.
+struct Lanes {
+  Pixel masks[16][4];
+
+  constexpr Lanes() : masks{} {
+    for (unsigned bits = 0; bits < 16; ++bits) {
+      for (unsigned i = 0; i < 4; ++i) masks[bits][i] = (bits >> i) & 1 ? ~Pixel{0} : 0;
+    }
+  }
+};
+constexpr Lanes kLanes;
+
+/// Paints those of 64 pixels whose bit is set. All of them are read and written, which is faster
+/// than going from run to run where runs are many.
+void blend(Pixel* p, Word bits, Ink ink) {
+  for (int i = 0; i < kWordBits; i += 4, p += 4, bits >>= 4) {
+    Pixel four[4], mask[4];
+    std::memcpy(four, p, sizeof four);
+    std::memcpy(mask, kLanes.masks[bits & 15], sizeof mask);
+    for (int k = 0; k < 4; ++k) four[k] ^= (four[k] ^ ink.over(four[k])) & mask[k];
+    std::memcpy(p, four, sizeof four);
+  }
+}
+
+/// Paints the pixels whose bit is set, run by run.
+void paintRuns(Pixel* p, Word bits, Ink ink) {
+  while (bits != 0) {
+    const int skip = std::countr_zero(bits);
+    const int count = std::countr_one(bits >> skip);
+    paintPixels(p + skip, count, ink);
+    if (skip + count == kWordBits) return;
+    bits = bits >> (skip + count) << (skip + count);
+  }
+}
+
 /// A range of numbers first..last, empty if last < first.
 struct Range {
   int first = std::numeric_limits<int>::max();
@@ -66,11 +101,14 @@ struct Range {
   }
 };
 
-/// One row of the fill.
+/// One row of the fill. The words of a row lie together, as the fill meets them together.
 struct Row {
-  Word* open;     ///< pixels of the region not yet painted
-  Word* seeds;    ///< of these, the ones reached from another row
-  Range pending;  ///< the words that hold seeds
+  Word* open = nullptr;   ///< pixels of the region that the fill has not yet reached
+  Word* seeds = nullptr;  ///< of these, the ones beside a pixel it has reached in another row
+  Word* found = nullptr;  ///< pixels reached but not yet painted
+  Range pending;          ///< the words that hold seeds
+
+  bool known() const { return open != nullptr; }
 };
 
 /// The memory of a fill. It is kept from one fill to the next, since fresh memory of this size
@@ -90,13 +128,13 @@ class Flood {
         region_(region),
         words_((bitmap.width() + kWordBits - 1) / kWordBits) {
     const std::size_t rows = static_cast<std::size_t>(bitmap.height());
-    if (scratch.words.size() < 2 * rows * words_) scratch.words.resize(2 * rows * words_);
-    scratch.rows.assign(rows, Row{nullptr, nullptr, {}});
+    if (scratch.words.size() < 3 * rows * words_) scratch.words.resize(3 * rows * words_);
+    scratch.rows.assign(rows, Row{});
   }
 
   /// Sweeps down and up by turns, each time from the rows that were reached behind the last sweep.
   Rect run(int x, int y) {
-    seed(y, x / kWordBits, Word{1} << (x % kWordBits));
+    seed(know(y), x / kWordBits, Word{1} << (x % kWordBits));
     Range rows{y, y};
     for (int step = 1; !rows.empty(); step = -step) {
       const int begin = step > 0 ? rows.first : rows.last;
@@ -107,25 +145,33 @@ class Flood {
       }
       rows = behind_;
     }
+    paintFound();
     return changed();
   }
 
  private:
   Row& know(int y) {
     Row& row = scratch_.rows[y];
-    if (row.open != nullptr) return row;
-    row.open = scratch_.words.data() + 2 * std::size_t(y) * words_;
-    row.seeds = row.open + words_;
-    const Pixel* pixels = bitmap_.row(y);
-    const int whole = bitmap_.width() / kWordBits;
-    for (int i = 0; i < whole; ++i, pixels += kWordBits) row.open[i] = matchesOfWord(pixels, region_);
-    if (whole < words_) row.open[whole] = matchesOfRest(pixels, bitmap_.width() % kWordBits, region_);
-    std::fill_n(row.seeds, words_, Word{0});
+    if (!row.known()) read(row, y);
     return row;
   }
 
-  bool seed(int y, int word, Word bits) {
-    Row& row = know(y);
+  void read(Row& row, int y) {
+    row.open = scratch_.words.data() + 3 * std::size_t(y) * words_;
+    row.seeds = row.open + words_;
+    row.found = row.seeds + words_;
+    std::fill_n(row.seeds, 2 * words_, Word{0});
+    const Pixel* pixels = bitmap_.row(y);
+    const int whole = bitmap_.width() / kWordBits;
+    for (int i = 0; i < whole; ++i, pixels += kWordBits) {
+      row.open[i] = matchesOfWord(pixels, region_);
+    }
+    if (whole < words_) {
+      row.open[whole] = matchesOfRest(pixels, bitmap_.width() % kWordBits, region_);
+    }
+  }
+
+  static bool seed(Row& row, int word, Word bits) {
     bits &= row.open[word];
     if (bits == 0) return false;
     row.seeds[word] |= bits;
@@ -133,13 +179,19 @@ class Flood {
     return true;
   }
 
+  /// Spreads the seeds of a row along it, towards higher columns and back, and seeds the rows
+  /// beside it.
   void visit(int y, int step) {
     Row& row = scratch_.rows[y];
+    Row* const ahead = neighbour(y + step);
+    Row* const behind = neighbour(y - step);
     const Range pending = row.pending;
     row.pending = Range{};
-    const int last = spreadRight(row, pending);
+    int first = spreadUpwards(row, pending);
     Word carry = 0;
-    for (int i = last; i >= pending.first || (carry != 0 && i >= 0); --i) {
+    bool seededAhead = false, seededBehind = false;
+    int i = first;
+    for (; i >= pending.first || (carry != 0 && i >= 0); --i) {
       const Word seeds = row.seeds[i] | ((carry << (kWordBits - 1)) & row.open[i]);
       carry = 0;
       if (seeds == 0) continue;
@@ -147,12 +199,21 @@ class Flood {
       carry = found & 1;
       row.seeds[i] = 0;
       row.open[i] &= ~found;
-      take(y, i, found, step);
+      take(row, y, i, found);
+      if (ahead != nullptr) seededAhead |= seed(*ahead, i, found);
+      if (behind != nullptr) seededBehind |= seed(*behind, i, found);
     }
+    if (seededAhead) ahead_ = step > 0 ? std::max(ahead_, y + 1) : std::min(ahead_, y - 1);
+    if (seededBehind) behind_.add(y - step);
+    paintedRows_.add(y);
+    paintedWords_.add(i + 1);
+    paintedWords_.add(first);
   }
 
-  /// Spreads all seeds towards higher columns; gives the last word with any.
-  int spreadRight(Row& row, const Range& pending) {
+  Row* neighbour(int y) { return y >= 0 && y < bitmap_.height() ? &know(y) : nullptr; }
+
+  /// Spreads all seeds towards higher columns; gives the last word that may have any.
+  int spreadUpwards(Row& row, const Range& pending) {
     Word carry = 0;
     int i = pending.first;
     for (; i <= pending.last || (carry != 0 && i < words_); ++i) {
@@ -161,31 +222,35 @@ class Flood {
     return i - 1;
   }
 
-  /// Paints what was found and seeds the rows beside it.
-  void take(int y, int word, Word found, int step) {
-    paint(y, word, found);
-    const int ahead = y + step, behind = y - step;
-    if (inside(ahead) && seed(ahead, word, found)) {
-      ahead_ = step > 0 ? std::max(ahead_, ahead) : std::min(ahead_, ahead);
+  // What is reached as a whole is painted while it is at hand. The rest waits, since most words of
+  // a winding region are reached in many small parts. Rows are read before they are painted, so the
+  // brush may have the very colour of the region.
+  void take(Row& row, int y, int word, Word found) {
+    if (found == ~Word{0}) {
+      paint(y, word, found);
+    } else {
+      row.found[word] |= found;
     }
-    if (inside(behind) && seed(behind, word, found)) behind_.add(behind);
   }
 
-  bool inside(int y) const { return y >= 0 && y < bitmap_.height(); }
+  void paintFound() {
+    for (int y = paintedRows_.first; y <= paintedRows_.last; ++y) {
+      const Row& row = scratch_.rows[y];
+      for (int i = paintedWords_.first; i <= paintedWords_.last; ++i) {
+        if (row.found[i] != 0) paint(y, i, row.found[i]);
+      }
+    }
+  }
 
-  // A row is painted only after its pixels were turned into bits, so the brush may have the very
-  // colour of the region.
   void paint(int y, int word, Word bits) {
-    paintedRows_.add(y);
-    paintedWords_.add(word);
     if (style_ != BrushStyle::Solid) bits &= hatchBits(style_, y) * (~Word{0} / 0xFF);
-    Pixel* p = bitmap_.row(y) + word * kWordBits;
-    while (bits != 0) {
-      const int skip = std::countr_zero(bits);
-      const int count = std::countr_one(bits >> skip);
-      paintPixels(p + skip, count, ink_);
-      if (skip + count == kWordBits) return;
-      bits = bits >> (skip + count) << (skip + count);
+    Pixel* const p = bitmap_.row(y) + word * kWordBits;
+    const int runs = std::popcount(bits & ~(bits << 1));
+    const bool whole = (word + 1) * kWordBits <= bitmap_.width();
+    if (runs > 3 && whole) {
+      blend(p, bits, ink_);
+    } else {
+      paintRuns(p, bits, ink_);
     }
   }
 

@@ -29,6 +29,8 @@ struct Ink {
 
 /// The ink of raster operation 1..16: bit 2P + D of rop - 1 is the result for pen bit P on bit D.
 inline Ink inkOf(int rop, Pixel color) {
+  constexpr int kCopy = 13;
+  if (rop == kCopy) return {0, color | kOpaque};
   const unsigned table = static_cast<unsigned>(rop - 1);
   const auto resultOn = [&](unsigned old) {
     const Pixel whereSet = (table >> (2 + old)) & 1 ? color : 0;

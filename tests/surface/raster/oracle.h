@@ -248,7 +248,7 @@ inline double distanceToEllipse(double a, double b, double x, double y) {
   };
   long double low = -static_cast<long double>(b) * b + static_cast<long double>(b) * y;
   long double high = low + std::hypot(a * x, b * y) + 1;
-  for (int i = 0; i < 200; ++i) {
+  for (int i = 0; i < 70; ++i) {
     const long double middle = (low + high) / 2;
     (excess(middle) > 0 ? low : high) = middle;
   }
