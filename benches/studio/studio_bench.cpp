@@ -1,0 +1,240 @@
+// The large studio at work: what a pointer event, a press, a fill and a panel cost, from the
+// handler to the repainted window, beside a plain copy of the sheet or the best peer's lines.
+// Closes with a table of the bars.
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+#include <cstdio>
+#include <cstring>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "../raster/contender.h"
+#include "studio/frmTekenen2.h"
+#include "surface/qt/toolkit.h"
+
+using namespace surface;
+
+namespace {
+
+constexpr workloads::Size Standard{617, 537}, Large{1500, 1500};
+
+frmTekenen2& studioWith(workloads::Size size) {
+  auto& studio = the<frmTekenen2>();
+  studio.Show();
+  studio.cmdNieuw.Click();
+  studio.picBlad.Width = static_cast<float>(size.width) * 15;
+  studio.picBlad.Height = static_cast<float>(size.height) * 15;
+  QApplication::processEvents();
+  return studio;
+}
+
+// The pointer between the two ends of one pencil stroke.
+void pencilMove(benchmark::State& state, workloads::Size size) {
+  auto& studio = studioWith(size);
+  studio.cmdTekenen.Click();
+  studio.picBlad.MouseDown({1, 0, 100, 100});
+  float x = 100;
+  for (auto _ : state) {
+    x = x == 100.0f ? 108.0f : 100.0f;
+    dispatch([&] { studio.picBlad.MouseMove({1, 0, x, 105}); });
+  }
+  studio.picBlad.MouseUp({1, 0, 100, 100});
+}
+
+constexpr Mouse NearEnd{1, 0, 150, 150}, FarEnd{1, 0, 420, 330};
+
+void artMove(benchmark::State& state) {
+  auto& studio = studioWith(Standard);
+  studio.cmdTekenen.Click();
+  studio.cmdArt.Click();
+  studio.picBlad.MouseDown(NearEnd);
+  for (auto _ : state) {
+    dispatch([&] { studio.picBlad.MouseMove(FarEnd); });
+    dispatch([&] { studio.picBlad.MouseMove(NearEnd); });
+  }
+  studio.picBlad.MouseUp(NearEnd);
+}
+
+// The same lines for the peers: the chain written out once more, run until it swings steadily
+// between the two ends.
+std::vector<std::vector<workloads::Point>> artStrokes() {
+  float x[40], y[40];
+  std::fill_n(x, 40, NearEnd.X / 15);
+  std::fill_n(y, 40, NearEnd.Y / 15);
+  std::vector<std::vector<workloads::Point>> strokes;
+  for (int move = 0; move < 200; ++move) {
+    if (move % 2 == 0) strokes.clear();
+    const Mouse& to = move % 2 == 0 ? FarEnd : NearEnd;
+    const float tx = to.X / 15, ty = std::nearbyint(to.Y / 15);
+    const float dx = std::abs(tx - x[0]) / 20, dy = std::abs(ty - y[0]) / 20;
+    for (int round = 0; round < 20; ++round) {
+      auto& stroke = strokes.emplace_back();
+      stroke.push_back({static_cast<int>(std::nearbyint(x[0] * 15)),
+                        static_cast<int>(std::nearbyint(y[0] * 15))});
+      for (int k = 1; k < 40; ++k) {
+        x[k] += (x[k - 1] - x[k]) / 4;
+        y[k] += (y[k - 1] - y[k]) / 4;
+        stroke.push_back({static_cast<int>(std::nearbyint(x[k] * 15)),
+                          static_cast<int>(std::nearbyint(y[k] * 15))});
+      }
+      x[0] += x[0] < tx ? dx : x[0] > tx ? -dx : 0;
+      y[0] += y[0] < ty ? dy : y[0] > ty ? -dy : 0;
+    }
+  }
+  return strokes;
+}
+
+void press(benchmark::State& state) {
+  auto& studio = studioWith(Standard);
+  studio.cmdTekenen.Click();
+  for (auto _ : state) dispatch([&] { studio.picBlad.MouseDown({1, 0, 200, 200}); });
+}
+
+void copyOfTheSheet(benchmark::State& state) {
+  const std::size_t bytes = std::size_t{617} * 537 * 4;
+  std::vector<char> from(bytes, 1), to(bytes, 2);
+  for (auto _ : state) {
+    std::memcpy(to.data(), from.data(), bytes);
+    benchmark::ClobberMemory();
+  }
+}
+
+void fillToScreen(benchmark::State& state) {
+  auto& studio = studioWith(Standard);
+  studio.cmdTekenen.Click();
+  studio.cmdOpvullen.Click();
+  Color color = 0;
+  for (auto _ : state) {
+    color = color == 0 ? 0x40A0FF : 0;
+    studio.picBlad.ForeColor = color;
+    dispatch([&] { studio.picBlad.MouseDown({1, 0, 300, 300}); });
+    QApplication::processEvents();
+  }
+}
+
+void panels(benchmark::State& state) {
+  auto& studio = studioWith(Standard);
+  for (auto _ : state) {
+    for (CommandButton* button :
+         {&studio.cmdLijnen, &studio.cmdGommen, &studio.cmdLineaal, &studio.cmdVulling,
+          &studio.cmdBorstels, &studio.cmdGradient, &studio.cmdEffecten}) {
+      dispatch([&] { button->Click(); });
+      QApplication::processEvents();
+    }
+    dispatch([&] { studio.cmdTekenen.Click(); });
+    QApplication::processEvents();
+  }
+}
+
+// The slowest first opening of a panel, when its controls are made.
+double slowestFirstOpening() {
+  auto& studio = studioWith(Standard);
+  double slowest = 0;
+  for (CommandButton* button :
+       {&studio.cmdLijnen, &studio.cmdGommen, &studio.cmdLineaal, &studio.cmdVulling,
+        &studio.cmdBorstels, &studio.cmdGradient, &studio.cmdEffecten}) {
+    const auto begun = std::chrono::steady_clock::now();
+    dispatch([&] { button->Click(); });
+    QApplication::processEvents();
+    slowest = std::max(
+        slowest, std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - begun)
+                     .count());
+  }
+  return slowest;
+}
+
+// The fastest repetition of every run, in microseconds: the least disturbed one says most.
+class Times : public benchmark::ConsoleReporter {
+ public:
+  void ReportRuns(const std::vector<Run>& runs) override {
+    for (const Run& run : runs) {
+      if (run.run_type != Run::RT_Iteration) continue;
+      const double time = run.GetAdjustedCPUTime();
+      const auto [at, fresh] = best_.try_emplace(run.run_name.function_name, time);
+      if (!fresh) at->second = std::min(at->second, time);
+    }
+  }
+  double of(const std::string& name) const {
+    const auto found = best_.find(name);
+    return found == best_.end() ? std::nan("") : found->second;
+  }
+  double bestPeer() const {
+    double best = 0;
+    for (const auto& [name, time] : best_)
+      if (name.starts_with("peer: ") && (best == 0 || time < best)) best = time;
+    return best;
+  }
+
+ private:
+  std::map<std::string, double> best_;
+};
+
+bool row(const char* what, double value, double bar, const char* unit) {
+  std::printf("%-44s %9.3f  at most %7.2f %-24s%s\n", what, value, bar, unit,
+              value <= bar ? "" : "  MISSED");
+  return value <= bar;
+}
+
+bool table(const Times& times, double firstOpening) {
+  bool good = true;
+  std::printf("\nart line: ours %.1f us, the best peer's lines %.1f us\n", times.of("art line"),
+              times.bestPeer());
+  good &= row("pencil move, 617 x 537", times.of("pencil 617"), 50, "us");
+  good &= row("pencil move, 1500 x 1500", times.of("pencil 1500"), 50, "us");
+  good &= row("art line, two moves of the real handler", times.of("art line") / times.bestPeer(),
+              0.5, "of the best peer's lines");
+  good &= row("press: snapshots and first dot", times.of("press") / times.of("memcpy"), 2.3,
+              "of a memcpy of the sheet");
+  good &= row("fill, press to repainted window", times.of("fill") / 1000, 3, "ms");
+  good &= row("seven panels and closing, each", times.of("panels") / 7 / 1000, 16, "ms");
+  good &= row("a panel's first opening, the slowest", firstOpening, 16, "ms");
+  return good;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  int onlyName = 1;
+  QApplication application(onlyName, argv);
+  surface::qt::install();
+  std::vector<char*> arguments(argv, argv + argc);
+  std::string defaults[] = {"--benchmark_enable_random_interleaving=true",
+                            "--benchmark_repetitions=7", "--benchmark_min_time=0.05"};
+  for (std::string& each : defaults) arguments.insert(arguments.begin() + 1, each.data());
+  int count = static_cast<int>(arguments.size());
+  benchmark::Initialize(&count, arguments.data());
+
+  const double firstOpening = slowestFirstOpening();
+  const auto enter = [](const char* name, auto run) {
+    benchmark::RegisterBenchmark(name, run)->Unit(benchmark::kMicrosecond);
+  };
+  enter("pencil 617", [](benchmark::State& state) { pencilMove(state, Standard); });
+  enter("pencil 1500", [](benchmark::State& state) { pencilMove(state, Large); });
+  enter("art line", artMove);
+  enter("press", press);
+  enter("memcpy", copyOfTheSheet);
+  enter("fill", fillToScreen);
+  enter("panels", panels);
+  const auto strokes = artStrokes();
+  std::vector<std::unique_ptr<race::Contender>> peers;
+  for (const race::Maker make :
+       {race::makeQPainter, race::makeCairo, race::makeOpenCv, race::makeAgg, race::makeSdl})
+    peers.push_back(make(Standard));
+  const char* const names[] = {"peer: QPainter", "peer: Cairo", "peer: OpenCV", "peer: AGG",
+                               "peer: SDL2_gfx"};
+  for (std::size_t i = 0; i < peers.size(); ++i)
+    if (const race::Job job = peers[i]->chains(strokes, 1))
+      enter(names[i], [job](benchmark::State& state) {
+        for (auto _ : state) job();
+      });
+  Times times;
+  benchmark::RunSpecifiedBenchmarks(&times);
+  const bool good = table(times, firstOpening);
+  FormRegistry::instance().clear();
+  return good ? 0 : 1;
+}
