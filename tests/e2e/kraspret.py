@@ -21,6 +21,10 @@ TOOLS = {
     "filled circle": "een GEVULDE cirkel",
     "ellipse": "een gewone ellips",
     "filled ellipse": "een GEVULDE ellips",
+    "fill": "opvullen van een gesloten oppervlak",
+    "dropper": "het kleurenpipetje om kleuren uit afbeeldingen te gebruiken",
+    "spray": "een spuitbus om mee te tekenen",
+    "art line": "kunstlijnen trekken",
 }
 UNDO = "de LAATSTE lijn of vorm ONGEDAAN maken"
 SAVE = "een tekening OPSLAAN ALS ..."
@@ -82,9 +86,14 @@ class KrasPret(driver.Program):
     def choose(self, tool):
         self.control(TOOLS[tool]).click()
 
-    def mode(self):
-        """What the status line says."""
-        return driver.plain_name(self.control("je MEDEDELINGENBORDJE").text)
+    def pick(self, wanted):
+        """Picks the colour of the palette that is nearest to the wanted one, and gives it."""
+        palette = self.control("het KLEURENPALET")
+        left, top, width, height = palette.rectangle
+        picture = self.desktop.screen().crop(left, top, width, height)
+        x, y, colour = min(picture.pixels(), key=lambda p: sum((a - b) ** 2 for a, b in zip(p[2], wanted)))
+        self.desktop.click(left + x, top + y)
+        return colour
 
     def wait_says(self, text):
         self.control(text)

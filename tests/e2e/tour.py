@@ -8,6 +8,8 @@ import driver
 import kraspret
 
 NAME = "Emma"
+SKY, SUN, SAND, ORANGE, BROWN = (190, 230, 255), (255, 230, 60), (255, 225, 160), (255, 140, 20), (110, 60, 10)
+RED, GREEN, LEAF = (215, 30, 30), (80, 170, 50), (20, 90, 20)
 
 
 class Tour:
@@ -20,12 +22,12 @@ class Tour:
         self.desktop = driver.Desktop()
         self.picture = " ".join(str(pathlib.Path(word).absolute()) if n == 0 else word for n, word in enumerate(words))
         self.program = kraspret.start(self.desktop, *([self.picture] if self.picture else []))
-        self.shots = 0
+        self.pictures = {}  # name of a screenshot -> the screen
 
     def shoot(self, name):
-        self.shots += 1
-        path = self.folder / f"{self.shots}-{name}.png"
-        self.still().save_png(path)
+        self.pictures[name] = self.still()
+        path = self.folder / f"{len(self.pictures)}-{name}.png"
+        self.pictures[name].save_png(path)
         print(f"  {path}")
 
     def still(self):
@@ -79,37 +81,62 @@ class Tour:
         program.save(saved)
         print(f"  {saved}")
 
-    @staticmethod
-    def scene(program, sheet):
+    def scene(self, program, sheet):
         """A house with a garden, the sun and a bird: each tool has its part in it."""
-        program.choose("line")
-        for points in (((20, 430), (600, 430)), ((150, 250), (250, 170)), ((250, 170), (350, 250)), ((460, 430), (460, 330))):
+        def tool(name, colour=None):
+            program.choose(name)
+            if colour:
+                program.pick(colour)
+
+        def fill(colour, *places):
+            tool("fill", colour)
+            for place in places:
+                self.desktop.click(*sheet.at(*place))
+
+        tool("line", GREEN)
+        sheet.drag((600, 430), (kraspret.SHEET[0] + 4, 430))
+        sheet.drag((600, 430), (-4, 430))
+        tool("filled box", BROWN)
+        for points in (((300, 170), (318, 222)), ((230, 350), (270, 429)), ((452, 336), (468, 429))):
             sheet.drag(*points)
-        program.choose("box")
-        for points in (((160, 250), (340, 430)), ((185, 280), (235, 330)), ((265, 280), (315, 330))):
+        tool("box", BROWN)
+        for points in (((160, 250), (340, 429)), ((180, 280), (220, 320)), ((280, 280), (320, 320))):
             sheet.drag(*points)
-        program.choose("filled box")
-        for points in (((230, 360), (270, 430)), ((300, 185), (320, 205))):
+        tool("line", BROWN)
+        for points in (((140, 250), (250, 160)), ((250, 160), (360, 250)), ((140, 250), (361, 250)), ((200, 280), (200, 321)),
+                       ((300, 280), (300, 321))):
             sheet.drag(*points)
-        program.choose("circle")
+        tool("circle", ORANGE)
         program.set_radius(45)
-        sheet.drag((520, 90), (520, 90))
+        self.desktop.click(*sheet.at(520, 90))
+        tool("filled circle", RED)
         program.set_radius(6)
-        program.desktop.click(*sheet.at(250, 215))
-        program.choose("filled circle")
+        self.desktop.click(*sheet.at(262, 392))
+        tool("ellipse", GREEN)
+        sheet.drag((453, 283), (505, 325))
+        tool("filled ellipse", LEAF)
+        sheet.drag((70, 400), (100, 412))
+        fill(SKY, (20, 20))
+        fill(SUN, (520, 90))
+        fill(GREEN, (20, 520))
+        fill(RED, (250, 200))
+        fill(SAND, (250, 300))
+        fill(LEAF, (460, 290))
+        tool("filled circle", RED)
+        program.set_radius(7)
+        for place in ((440, 280), (478, 268), (462, 308), (500, 300)):
+            self.desktop.click(*sheet.at(*place))
+        tool("filled circle", BROWN)
         program.set_radius(5)
-        for place in ((505, 80), (535, 80), (445, 290), (475, 280), (460, 310)):
-            program.desktop.click(*sheet.at(*place))
-        program.choose("ellipse")
-        sheet.drag((453, 283), (500, 320))
-        program.choose("filled ellipse")
-        sheet.drag((83, 403), (110, 410))
-        program.choose("pencil")
-        sheet.drag((505, 108), (512, 114), (520, 116), (528, 114), (535, 108))
-        sheet.drag((330, 90), (345, 78), (360, 90), (375, 78), (390, 90))
-        for x in range(30, 600, 30):
-            if not 150 < x < 350:
-                sheet.drag((x, 450), (x + 5, 436), (x + 10, 452))
+        for place in ((505, 80), (535, 80)):
+            self.desktop.click(*sheet.at(*place))
+        tool("pencil")
+        sheet.drag((503, 106), (510, 113), (520, 116), (530, 113), (537, 106))
+        for x, y in ((380, 90), (420, 70), (400, 120)):
+            sheet.drag((x, y), (x + 8, y - 6), (x + 16, y), (x + 24, y - 6), (x + 32, y))
+        tool("pencil", LEAF)
+        for x in range(20, 600, 40):
+            sheet.drag((x, 470), (x + 4, 455), (x + 9, 471), (x + 14, 452), (x + 18, 470))
 
 
 def main(program, folder, *words):
