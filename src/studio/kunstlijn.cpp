@@ -9,14 +9,31 @@ using namespace surface;
 
 namespace {
 
-constexpr int Rounds = 20;
+constexpr std::size_t Rounds = 20;
 
-// Draws `follower` a quarter of the way to `leader`.
-float followed(float follower, float leader) {
-  if (follower > leader) return follower - (follower - leader) / 4;
-  if (follower < leader) return follower + (leader - follower) / 4;
-  return follower;
-}
+// One coordinate of all points in all rounds of a move. Every point goes a quarter of the way to
+// the one before it, which has moved already: point k of round r follows from point k of round r-1
+// and point k-1 of round r. So all (r, k) with one sum r + k can be worked out side by side; they
+// stand in one row, round r in lane r + 1, and lane 0 holds the chain as it was. The arithmetic of
+// each point stays what it is one by one.
+class Course {
+ public:
+  Course(const std::array<float, 100>& chain, const std::array<float, Rounds>& heads) {
+    for (std::size_t sum = 0; sum < Sums; ++sum) {
+      if (sum > 0)
+        for (std::size_t r = 0; r < Rounds; ++r)
+          rows_[sum][r + 1] = rows_[sum - 1][r] - (rows_[sum - 1][r] - rows_[sum - 1][r + 1]) / 4;
+      rows_[sum][0] = chain[sum + 1];
+      if (sum < Rounds) rows_[sum][sum + 1] = heads[sum];
+    }
+  }
+
+  float at(std::size_t round, std::size_t point) const { return rows_[round + point][round + 1]; }
+
+ private:
+  static constexpr std::size_t Sums = Rounds + Kunstlijn::Points - 1;
+  float rows_[Sums][Rounds + 1] = {};
+};
 
 // One of the twenty steps of the head; it may pass its target by less than a step.
 float stepped(float head, float target, float step) {
@@ -45,14 +62,26 @@ void Kunstlijn::chase(DrawingSurface& sheet, float X, float Y) {
   const std::int16_t ty = toInt16(Y / 15);
   const float dX = std::abs(tx - KunstX[0]) / Rounds;
   const float dY = std::abs(ty - KunstY[0]) / Rounds;
-  for (int round = 0; round < Rounds; ++round) {
-    for (std::size_t k = 1; k < Points; ++k) {
-      KunstX[k] = followed(KunstX[k], KunstX[k - 1]);
-      KunstY[k] = followed(KunstY[k], KunstY[k - 1]);
-      sheet.Line({KunstX[k - 1] * 15, KunstY[k - 1] * 15}, {KunstX[k] * 15, KunstY[k] * 15},
-                 RGB(KunstR[k], KunstG[k], KunstB[k]));
-    }
+  std::array<float, Rounds> headX, headY;
+  for (std::size_t round = 0; round < Rounds; ++round) {
+    headX[round] = KunstX[0];
+    headY[round] = KunstY[0];
     KunstX[0] = stepped(KunstX[0], tx, dX);
     KunstY[0] = stepped(KunstY[0], ty, dY);
+  }
+  const Course x(KunstX, headX), y(KunstY, headY);
+  std::array<Color, Points> colors;
+  for (std::size_t k = 1; k < Points; ++k) colors[k] = RGB(KunstR[k], KunstG[k], KunstB[k]);
+  for (std::size_t round = 0; round < Rounds; ++round) {
+    PointF from{x.at(round, 0) * 15, y.at(round, 0) * 15};
+    for (std::size_t k = 1; k < Points; ++k) {
+      const PointF to{x.at(round, k) * 15, y.at(round, k) * 15};
+      sheet.Line(from, to, colors[k]);
+      from = to;
+    }
+  }
+  for (std::size_t k = 1; k < Points; ++k) {
+    KunstX[k] = x.at(Rounds - 1, k);
+    KunstY[k] = y.at(Rounds - 1, k);
   }
 }

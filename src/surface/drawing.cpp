@@ -17,9 +17,17 @@ constexpr double CoordinateLimit = 32767;
 constexpr int LargestSide = 32767;
 constexpr std::int64_t MostPixels = 64'000'000;
 
-int toCoordinate(double value) {
+[[gnu::cold]] int farCoordinate(double value) {
   if (std::isnan(value)) throw RuntimeError(ErrorKind::Overflow, "Overflow");
-  return static_cast<int>(roundEven(std::clamp(value, -CoordinateLimit, CoordinateLimit)));
+  return static_cast<int>(value < 0 ? -CoordinateLimit : CoordinateLimit);
+}
+
+// Rounds ties to even. Adding and taking away 1.5 * 2^52 leaves no room for a fraction; the
+// library's own rounding is a call, and this runs for every point that is drawn.
+inline int toCoordinate(double value) {
+  if (std::abs(value) <= CoordinateLimit) [[likely]]
+    return static_cast<int>((value + 0x1.8p52) - 0x1.8p52);
+  return farCoordinate(value);
 }
 
 double twipsPerUnit(ScaleUnit unit) {
@@ -93,7 +101,7 @@ void DrawingSurface::setUserScale(PointF origin, SizeF extent) {
   userExtent_ = extent;
 }
 
-DrawingSurface::Pixels DrawingSurface::pixelsOf(PointF at) const {
+inline DrawingSurface::Pixels DrawingSurface::pixelsOf(PointF at) const {
   if (scaleMode_ == ScalePixels) return {toCoordinate(at.X), toCoordinate(at.Y)};
   return {toCoordinate((at.X - userOrigin_.X) * pixelsPerUnitX()),
           toCoordinate((at.Y - userOrigin_.Y) * pixelsPerUnitY())};
@@ -104,8 +112,9 @@ PointF DrawingSurface::toScale(int pixelX, int pixelY) const {
           static_cast<float>(pixelY / pixelsPerUnitY() + userOrigin_.Y)};
 }
 
-raster::Pen DrawingSurface::pen(Color color) const {
-  const auto style = DrawStyle == 5   ? raster::PenStyle::Null
+inline raster::Pen DrawingSurface::pen(Color color) const {
+  const auto style = DrawStyle == 0   ? raster::PenStyle::Solid
+                     : DrawStyle == 5 ? raster::PenStyle::Null
                      : DrawStyle == 2 ? raster::PenStyle::Dotted
                                       : raster::PenStyle::Solid;
   return {style, std::min<int>(DrawWidth, 200), toPixel(color)};
@@ -221,8 +230,10 @@ std::shared_ptr<const raster::Bitmap> DrawingSurface::bitmap() const {
 }
 
 raster::Bitmap& DrawingSurface::writableBitmap() {
-  if (!bitmap_) bitmap_ = composed();
-  if (bitmap_.use_count() > 1) bitmap_ = std::make_shared<raster::Bitmap>(*bitmap_);
+  if (bitmap_.use_count() != 1) {
+    if (!bitmap_) bitmap_ = composed();
+    if (bitmap_.use_count() > 1) bitmap_ = std::make_shared<raster::Bitmap>(*bitmap_);
+  }
   // Only this surface holds the bitmap now, and every bitmap is made writable.
   return const_cast<raster::Bitmap&>(*bitmap_);
 }
@@ -259,7 +270,7 @@ void DrawingSurface::setInnerSize(int width, int height) {
   damage(inner_);
 }
 
-void DrawingSurface::damage(const raster::Rect& area) {
+void DrawingSurface::growDamage(const raster::Rect& area) {
   if (area.empty()) return;
   const bool first = damage_.empty();
   damage_ = unite(damage_, area);

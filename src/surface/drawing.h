@@ -125,7 +125,11 @@ class DrawingSurface {
   raster::Brush brush() const;
   raster::Target target() { return {writableBitmap(), DrawMode}; }
   /// Tells that a rectangle of pixels has changed; it is shown when the thread is next idle.
-  void damage(const raster::Rect& area);
+  void damage(const raster::Rect& area) {
+    const bool known = area.left >= damage_.left && area.top >= damage_.top &&
+                       area.right <= damage_.right && area.bottom <= damage_.bottom;
+    if (!known) growDamage(area);
+  }
   PointF toScale(int pixelX, int pixelY) const;
   const raster::Rect& innerPixels() const { return inner_; }
 
@@ -146,6 +150,7 @@ class DrawingSurface {
   double pixelsPerUnitX() const;
   double pixelsPerUnitY() const;
   raster::Pen pen(Color color) const;
+  void growDamage(const raster::Rect& area);
   void showDamage();
 
   ScaleUnit scaleMode_;

@@ -14,8 +14,8 @@ struct Part {
   Wide first, last;
 };
 
-/// A line as steps along its longer axis. At step i it has made floor((start + i slope) / 2^40)
-/// steps along the shorter one.
+/// A line as steps along its longer axis. At step i it stands at height start + i slope, in units
+/// of 2^-40, over its first pixel; the whole part of that counts its steps along the shorter axis.
 ///
 /// The true height there is i d / n + 1/2, for the shorter extent d and the longer n below 2^17;
 /// unless it is whole, it is at least 1 / 2n > 2^-18 away from a whole number. Slope is rounded up,
@@ -39,7 +39,7 @@ class Course {
   /// To be called before the heights are used; a line of no length has none.
   void divide() { slope = slope * kOne / length + 1; }
 
-  Wide heightAt(Wide i) const { return (start + i * slope) >> kBits; }
+  Wide heightAt(Wide i) const { return start + i * slope; }
 
   /// The steps whose pixel has its longer coordinate in 0..size-1.
   void clipMajor(int size, Part& part) const {
@@ -67,15 +67,21 @@ class Course {
 template <class Plot>
 inline void walk(Bitmap& bitmap, const Course& c, const Part& part, Plot plot) {
   const std::ptrdiff_t stride = bitmap.width();
-  const std::ptrdiff_t majorStep = c.majorSign * (c.flat ? 1 : stride);
   const std::ptrdiff_t minorStep = c.minorSign * (c.flat ? stride : 1);
+  std::ptrdiff_t step = c.majorSign * (c.flat ? 1 : stride);
+  const Wide height = c.heightAt(part.first);
   Pixel* p = bitmap.row(0) + (c.flat ? c.minor * stride + c.major : c.major * stride + c.minor) +
-             part.first * majorStep;
-  Wide height = c.start + part.first * c.slope;
+             part.first * step + (height >> Course::kBits) * minorStep;
+  // The fraction fills all 64 bits, so that its carry is the step aside. A diagonal steps aside
+  // always, which no fraction can say.
+  constexpr int kShift = 64 - Course::kBits;
+  const std::uint64_t slope = static_cast<std::uint64_t>(c.slope) << kShift;
+  std::uint64_t fraction = static_cast<std::uint64_t>(height) << kShift;
+  if (c.slope > Course::kOne) step += minorStep;
   for (Wide i = part.first; i <= part.last; ++i) {
-    plot(p + (height >> Course::kBits) * minorStep, i);
-    p += majorStep;
-    height += c.slope;
+    plot(p, i);
+    fraction += slope;
+    p += step + (minorStep & -static_cast<std::ptrdiff_t>(fraction < slope));
   }
 }
 
