@@ -27,7 +27,10 @@ TOOLS = {
     "art line": "kunstlijnen trekken",
 }
 UNDO = "de LAATSTE lijn of vorm ONGEDAAN maken"
+REDO = "ONGEDAAN maken tenietdoen"
 SAVE = "een tekening OPSLAAN ALS ..."
+OPEN = "een tekening uit een bestand ophalen"
+OPEN_QUESTION = "Opslaan"
 RADIUS = "INSTELLEN van de diameter van de cirkel"
 DIALOGS = ("dialog", "file chooser", "alert")
 

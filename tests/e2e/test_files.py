@@ -5,7 +5,7 @@ import unittest
 import driver
 import kraspret
 import pixels
-from kraspret import BLACK, OVERWRITE_QUESTION, SAVE, SHEET, WHITE
+from kraspret import BLACK, OPEN, OPEN_QUESTION, OVERWRITE_QUESTION, SAVE, SHEET, WHITE
 
 RED, BLUE = (255, 0, 0), (0, 0, 255)
 
@@ -17,6 +17,14 @@ def setUpModule():
 
 def tearDownModule():
     desktop.close()
+
+
+def halves(width, height):
+    """A picture whose left half is red and whose right half is blue, with a black pixel in two corners."""
+    half = width // 2
+    row = bytes(RED) * half + bytes(BLUE) * (width - half)
+    rows = [bytes(BLACK) + row[3:]] + [row] * (height - 2) + [row[:-3] + bytes(BLACK)]
+    return pixels.Picture(width, height, rows)
 
 
 class Files(unittest.TestCase):
@@ -114,17 +122,64 @@ class Saving(Files):
         self.mark(self.program.save(self.path("na.bmp")))
 
 
-class PictureAtTheStart(Files):
-    def quarters(self, width, height):
-        """A picture whose left half is red and whose right half is blue, with a black pixel in two corners."""
-        half = width // 2
-        row = bytes(RED) * half + bytes(BLUE) * (width - half)
-        rows = [bytes(BLACK) + row[3:]] + [row] * (height - 2) + [row[:-3] + bytes(BLACK)]
-        return pixels.Picture(width, height, rows)
+class Opening(Files):
+    def setUp(self):
+        self.program = self.start().to_studio()
+        self.program.sheet().drag((40, 50), (140, 50))
 
+    def given(self):
+        """A picture on disk, and where it lies."""
+        path = self.path("gegeven.bmp")
+        picture = halves(60, 40)
+        pixels.write_bmp(path, picture)
+        return path, picture
+
+    def ask_to_open(self, answer):
+        self.program.control(OPEN).click()
+        self.program.wait_says("een BESTAANDE tekening uit je computer OPENEN")
+        text = self.program.answer(OPEN_QUESTION, answer)
+        self.assertIn("Wil je de huidige tekening opslaan ?", text)
+
+    def test_a_picture_takes_the_place_of_the_drawing(self):
+        path, picture = self.given()
+        self.ask_to_open("Nee")
+        self.program.answer_file_dialog(path)
+        self.program.wait_no_dialog()
+        self.program.wait_pixel(10, 10, RED)
+        saved = self.program.save(self.path("opgeslagen.bmp"))
+        self.assertEqual(saved.crop(0, 0, 60, 40).rows, picture.rows)
+        self.assertEqual(saved.others(WHITE), {(x, y) for x in range(60) for y in range(40)})
+
+    def test_a_yes_saves_the_drawing_first(self):
+        path, picture = self.given()
+        drawing = self.path("tekening.bmp")
+        self.ask_to_open("Ja")
+        self.program.answer_file_dialog(drawing)
+        driver.until(drawing.exists, "drawing")
+        self.program.answer_file_dialog(path)
+        self.program.wait_no_dialog()
+        self.program.wait_pixel(10, 10, RED)
+        self.assertEqual(pixels.read_bmp(drawing).others(WHITE), {(x, 50) for x in range(40, 141)})
+
+    def test_a_cancel_keeps_the_drawing(self):
+        self.ask_to_open("Nee")
+        self.program.answer_file_dialog(None)
+        self.program.wait_no_dialog()
+        self.assertEqual(self.program.save(self.path("na.bmp")).others(WHITE), {(x, 50) for x in range(40, 141)})
+
+    def test_a_damaged_file_keeps_the_drawing_without_a_word(self):
+        path = self.path("stuk.gif")
+        path.write_bytes(b"GIF89a" + bytes(20))
+        self.ask_to_open("Nee")
+        self.program.answer_file_dialog(path)
+        self.program.wait_no_dialog()
+        self.assertEqual(self.program.save(self.path("na.bmp")).others(WHITE), {(x, 50) for x in range(40, 141)})
+
+
+class PictureAtTheStart(Files):
     def open_with(self, width, height):
         """Starts with a picture of this size; gives it, the program and the saved sheet."""
-        given = self.quarters(width, height)
+        given = halves(width, height)
         path = self.path("gegeven.bmp")
         pixels.write_bmp(path, given)
         program = self.start(path).to_studio()
@@ -143,7 +198,7 @@ class PictureAtTheStart(Files):
         self.assertEqual(saved.rows, given.crop(0, 0, *SHEET).rows)
 
     def test_a_drawing_on_a_picture_is_saved_with_it(self):
-        given = self.quarters(200, 100)
+        given = halves(200, 100)
         path = self.path("gegeven.bmp")
         pixels.write_bmp(path, given)
         program = self.start(path).to_studio()
@@ -174,7 +229,7 @@ class PictureAtTheStart(Files):
 
     def test_a_broken_picture_brings_a_message_and_an_empty_sheet(self):
         path = self.path("stuk.bmp")
-        pixels.write_bmp(path, self.quarters(60, 40))
+        pixels.write_bmp(path, halves(60, 40))
         path.write_bytes(path.read_bytes()[:200])
         self.assertEqual(self.refused(path), f"Er is iets misgegaan ! {path} KrasPret kan deze opdracht niet verwerken. "
                                              "Het is mogelijk dat het bestand niet bestaat of beschadigd is.")

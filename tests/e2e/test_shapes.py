@@ -203,6 +203,56 @@ class Shapes(unittest.TestCase):
             program.control(tool).click()
             driver.until(lambda: undo.enabled == offered, f"undo {'on' if offered else 'off'} for {tool!r}")
 
+    def wait_offered(self, name, offered):
+        """Waits until the first button of this name can, or cannot, be pressed."""
+        driver.until(lambda: program.control(name).enabled == offered, f"{name!r} {'on' if offered else 'off'}")
+
+    def test_undo_and_redo_swap_the_sheet_before_and_after_the_last_line(self):
+        program.choose("line")
+        self.sheet.drag((40, 50), (140, 50))
+        self.sheet.drag((40, 100), (140, 100))
+        before, after = span(40, 139, 50), span(40, 139, 50) | span(40, 139, 100)
+        self.wait_offered(kraspret.UNDO, True)
+        self.wait_offered(kraspret.REDO, False)
+        for _ in range(2):
+            program.control(kraspret.UNDO).click()
+            self.wait_offered(kraspret.UNDO, False)
+            self.wait_offered(kraspret.REDO, True)
+            program.wait_pixel(100, 100, WHITE)
+            program.wait_pixel(100, 50, BLACK)
+            program.control(kraspret.REDO).click()
+            self.wait_offered(kraspret.UNDO, True)
+            self.wait_offered(kraspret.REDO, False)
+            program.wait_pixel(100, 100, BLACK)
+        self.assertEqual(self.black(), after)
+        program.control(kraspret.UNDO).click()
+        self.wait_offered(kraspret.UNDO, False)
+        self.assertEqual(self.black(), before)
+
+    def test_a_colour_holds_until_a_button_that_gives_a_new_pen(self):
+        program.choose("filled box")
+        red = program.pick((255, 0, 0))
+        self.sheet.drag((100, 100), (120, 110))
+        program.choose("filled box")
+        self.sheet.drag((200, 100), (220, 110))
+        picture = self.saved()
+        self.assertNotIn(red, (BLACK, WHITE))
+        self.assertEqual({picture.at(x, y) for x in range(100, 121) for y in range(100, 111)}, {red})
+        self.assertEqual({picture.at(x, y) for x in range(200, 221) for y in range(100, 111)}, {BLACK})
+
+    def test_a_fill_stops_at_the_outline(self):
+        program.choose("box")
+        self.sheet.drag((100, 100), (160, 140))
+        program.choose("fill")
+        program.wait_says("je kunt nu vlakken in je tekening OPVULLEN")
+        blue = program.pick((0, 0, 255))
+        desktop.click(*self.sheet.at(130, 120))
+        picture = self.saved()
+        self.assertEqual({p for p in picture.others(WHITE) if picture.at(*p) == blue},
+                         {(x, y) for x in range(101, 160) for y in range(101, 140)})
+        self.assertEqual({p for p in picture.others(WHITE) if picture.at(*p) != blue},
+                         span(100, 160, 100) | span(100, 160, 140) | pillar(100, 100, 140) | pillar(160, 100, 140))
+
     def test_the_pointers_place_is_told(self):
         desktop.move(*self.sheet.at(123, 45))
         program.wait_says("X=123  Y=45")
