@@ -263,13 +263,29 @@ class frmTekenen2_controls : public surface::Form {
                              {.X1 = 720, .Y1 = 360, .X2 = 1440, .Y2 = 720, .Visible = false}};
   surface::ShapeControl Shape2{
       picBlad, {.Left = 840, .Top = 1200, .Width = 855, .Height = 615, .Visible = false}};
+  surface::Label picTekst{picBlad,
+                          {.Left = 15,
+                           .Top = 15,
+                           .Width = 1500,
+                           .Height = 600,
+                           .BackColor = surface::White,
+                           .Visible = false}};
   surface::ProgressBar ProgressBar1{
       *this, {.Left = 5760, .Top = 3960, .Width = 3495, .Height = 375, .Visible = false}};
 
   // Hidden surfaces: they hold bitmaps only from the first drawing on
   surface::PictureBox picUndo{*this, sheetSized(surface::ScaleTwips, false)};
   surface::PictureBox picRedo{*this, sheetSized(surface::ScaleTwips, false)};
+  surface::PictureBox Tempory{picRedo,
+                              {.Width = 9255,
+                               .Height = 8055,
+                               .ScaleMode = surface::ScalePixels,
+                               .AutoRedraw = true,
+                               .Visible = false}};
   surface::PictureBox picTemp{*this, sheetSized(surface::ScalePixels, true)};
+  surface::PictureBox TempZoom{*this, small(360, 7440, 615, true)};
+  surface::PictureBox picNieuw{*this, small(1080, 8280, 255, false)};
+  surface::PictureBox picRoteren{*this, small(1440, 8280, 255, false)};
   surface::ControlArray<surface::PictureBox, 5> UndoPic{
       *this,
       {small(1800, 8280, 255, true), small(2160, 8280, 255, true), small(2520, 8280, 255, true),
@@ -281,6 +297,7 @@ class frmTekenen2_controls : public surface::Form {
   surface::ImageControl curVullen{*this, cursor("curVullen")};
   surface::ImageControl curGom{*this, cursor("curGom")};
   surface::ImageControl curDrop{*this, cursor("curDrop")};
+  surface::ImageControl curVizier{*this, cursor("curVizier")};
 
   surface::TimerControl Timer2{{.Interval = 0, .Enabled = false}};
   surface::CommonDialog CommonDialog1;  // colours

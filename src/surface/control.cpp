@@ -42,8 +42,23 @@ raster::Rect Control::pixelPlace() const {
   return {left, top, left + pixels(Width), top + pixels(Height)};
 }
 
-void Control::placeChanged() {
-  resized();
+void Control::widthChanged(const float& former) {
+  try {
+    resized();
+  } catch (const RuntimeError&) {
+    Width.setQuietly(former);
+    throw;
+  }
+  changed(Aspect::Place);
+}
+
+void Control::heightChanged(const float& former) {
+  try {
+    resized();
+  } catch (const RuntimeError&) {
+    Height.setQuietly(former);
+    throw;
+  }
   changed(Aspect::Place);
 }
 

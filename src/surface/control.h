@@ -51,7 +51,9 @@ void length(const float& value);
 
 class Control {
  protected:
-  void placeChanged();
+  void placeChanged() { changed(Aspect::Place); }
+  void widthChanged(const float& former);
+  void heightChanged(const float& former);
   void visibilityChanged();
   void enabledChanged() { changed(Aspect::Enabled); }
   void lookChanged() { changed(Aspect::Look); }
@@ -71,8 +73,8 @@ class Control {
   // In the scale of the container.
   Prop<float, &Control::placeChanged> Left;
   Prop<float, &Control::placeChanged> Top;
-  Prop<float, &Control::placeChanged, check::length> Width;
-  Prop<float, &Control::placeChanged, check::length> Height;
+  Prop<float, &Control::widthChanged, check::length> Width;
+  Prop<float, &Control::heightChanged, check::length> Height;
   Prop<bool, &Control::visibilityChanged> Visible;
   Prop<bool, &Control::enabledChanged> Enabled;
   Prop<std::string, &Control::lookChanged> ToolTipText;

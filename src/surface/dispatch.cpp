@@ -31,6 +31,8 @@ void finishProgram() {
 }
 
 void failProgram(const std::string& text) {
+  // From here on no other handler runs, although the report lets the toolkit's events in.
+  hasEnded = true;
   if (host().errorReport) host().errorReport(text);
   finishProgram();
 }

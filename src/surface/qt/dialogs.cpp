@@ -11,6 +11,7 @@
 #include <QMimeData>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QStandardPaths>
 
 #include "surface/dialogs.h"
 #include "surface/dispatch.h"
@@ -30,6 +31,12 @@ QStringList filtersOf(const std::string& filter) {
     rows += QString(fields[i]).remove(QRegularExpression(R"( *\(.*\))")) + " (" + pattern + ")";
   }
   return rows;
+}
+
+// Where the child was last, at first among the pictures.
+QString& folder() {
+  static QString last = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+  return last;
 }
 
 QWidget* owner() { return QApplication::activeWindow(); }
@@ -71,7 +78,7 @@ std::optional<std::string> inputBox(const std::string& prompt, const std::string
 
 std::optional<std::string> fileDialog(const FileRequest& request) {
   showPending();
-  QFileDialog dialog(owner(), request.save ? "Opslaan als" : "Openen");
+  QFileDialog dialog(owner(), request.save ? "Opslaan als" : "Openen", folder());
   dialog.setOption(QFileDialog::DontUseNativeDialog);
   // The program asks about an existing name itself.
   dialog.setOption(QFileDialog::DontConfirmOverwrite);
@@ -87,6 +94,7 @@ std::optional<std::string> fileDialog(const FileRequest& request) {
   dialog.setLabelText(QFileDialog::FileName, "Bestands&naam:");
   dialog.setLabelText(QFileDialog::FileType, "Soort bestand:");
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
+  folder() = dialog.directory().absolutePath();
   return dialog.selectedFiles().first().toStdString();
 }
 
