@@ -4,6 +4,7 @@ import pathlib
 
 import driver
 import pixels
+from pixels import BLACK, WHITE  # the tests take them from here, too
 
 BUILT = pathlib.Path(__file__).resolve().parents[2] / "build/release/kraspret/kraspret"
 MENU = "KRAS PRET"
@@ -11,7 +12,6 @@ STUDIO = "KRAS PRET - TEKENEN GROOT"
 QUIT_QUESTION = "Spijtig - berichtje"
 OVERWRITE_QUESTION = "Bestand opslaan als ..."
 SHEET = (617, 537)
-WHITE, BLACK = (255, 255, 255), (0, 0, 0)
 TOOLS = {
     "pencil": "je tekenpotlood",
     "line": "een rechte lijn trekken",
@@ -74,10 +74,6 @@ class KrasPret(driver.Program):
         self.control("Einde").click()
         self.wait_gone(STUDIO)
         return self.wait_menu()
-
-    def to_menu(self):
-        self.wait_menu()
-        return self
 
     def to_studio(self):
         self.wait_menu()

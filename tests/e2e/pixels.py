@@ -3,6 +3,8 @@ import pathlib
 import struct
 import zlib
 
+WHITE, BLACK, RED, BLUE = (255, 255, 255), (0, 0, 0), (255, 0, 0), (0, 0, 255)
+
 
 class Picture:
     """Pixels as (red, green, blue), (0, 0) at the top left. `rows` holds one bytes object of RGB triples for each row."""
@@ -77,6 +79,14 @@ def write_bmp(path, picture):
 
 def plain(width, height, colour):
     return Picture(width, height, [bytes(colour) * width for _ in range(height)])
+
+
+def halves(width, height):
+    """A picture whose left half is red and whose right half is blue, with a black pixel in two corners."""
+    half = width // 2
+    row = bytes(RED) * half + bytes(BLUE) * (width - half)
+    rows = [bytes(BLACK) + row[3:]] + [row] * (height - 2) + [row[:-3] + bytes(BLACK)]
+    return Picture(width, height, rows)
 
 
 def read_screen(path):

@@ -1,20 +1,10 @@
 """Every shape tool of the large studio, drawn with a real pointer and judged by the pixels of the saved file."""
 import unittest
 
+import cases
 import driver
 import kraspret
 from kraspret import BLACK, SHEET, WHITE
-
-
-def setUpModule():
-    global desktop, program
-    desktop = driver.Desktop()
-    program = kraspret.start(desktop).to_menu()
-
-
-def tearDownModule():
-    driver.stop(program.process)
-    desktop.close()
 
 
 def span(x0, x1, y):
@@ -46,24 +36,10 @@ def inside(outline):
     return {(x, y) for y in range(top, bottom + 1) for x in range(left, right + 1)} - seen - set(outline)
 
 
-class Shapes(unittest.TestCase):
-    number = 0
-
-    def setUp(self):
-        self.sheet = program.open_studio()
-
-    def tearDown(self):
-        global program
-        try:
-            program.leave_studio()
-        except driver.NotSeen:  # a dialog in the way, or worse: the next test starts afresh
-            driver.stop(program.process)
-            program = kraspret.start(desktop).to_menu()
-
+class Shapes(cases.StudioCase):
     def saved(self):
         """The picture as a file."""
-        Shapes.number += 1
-        picture = program.save(desktop.folder / f"shape{Shapes.number}.bmp")
+        picture = self.program.save(self.path(f"{len(self.left())}.bmp"))
         self.assertEqual((picture.width, picture.height), SHEET)
         return picture
 
@@ -87,7 +63,7 @@ class Shapes(unittest.TestCase):
         self.assertEqual(self.black(), span(40, 140, 50) | pillar(140, 50, 90))
 
     def test_a_press_of_the_pencil_leaves_a_dot(self):
-        desktop.click(*self.sheet.at(77, 66))
+        self.desktop.click(*self.sheet.at(77, 66))
         self.assertEqual(self.black(), {(77, 66)})
 
     def test_the_right_button_draws_a_dot_with_the_pencil_and_no_line(self):
@@ -95,57 +71,57 @@ class Shapes(unittest.TestCase):
         self.assertEqual(self.black(), {(40, 50)})
 
     def test_a_line_goes_from_press_to_release(self):
-        program.choose("line")
-        program.wait_says("je bent bezig met LIJNEN TREKKEN")
+        self.program.choose("line")
+        self.program.wait_says("je bent bezig met LIJNEN TREKKEN")
         self.sheet.drag((40, 50), (100, 80), (140, 50))
         self.sheet.drag((200, 200), (260, 260))
         self.sheet.drag((300, 140), (300, 100))
         self.assertEqual(self.black(), span(40, 139, 50) | {(200 + i, 200 + i) for i in range(60)} | pillar(300, 101, 140))
 
     def test_the_sample_of_the_first_line_stays_on_the_sheet_and_out_of_the_file(self):
-        program.choose("line")
+        self.program.choose("line")
         self.sheet.drag((300, 300), (340, 300))
-        program.wait_pixel(48, 24, BLACK)
+        self.program.wait_pixel(48, 24, BLACK)
         self.assertEqual(self.black(), span(300, 339, 300))
 
     def test_a_line_begun_at_the_very_edge_is_not_drawn(self):
-        program.choose("line")
+        self.program.choose("line")
         self.sheet.drag((0, 50), (140, 50))
         self.sheet.drag((50, 0), (50, 140))
         self.sheet.drag((1, 200), (30, 200))
         self.assertEqual(self.black(), span(1, 29, 200))
 
     def test_a_line_released_outside_the_sheet_reaches_its_edge(self):
-        program.choose("line")
+        self.program.choose("line")
         self.sheet.drag((500, 400), (SHEET[0] + 20, 400))
         self.assertEqual(self.black(), span(500, SHEET[0] - 1, 400))
 
     def test_a_rectangle_is_an_outline_with_both_corners(self):
-        program.choose("box")
-        program.wait_says("je tekent nu een LEGE RECHTHOEK")
+        self.program.choose("box")
+        self.program.wait_says("je tekent nu een LEGE RECHTHOEK")
         self.sheet.drag((160, 180), (100, 120))
         self.assertEqual(self.black(), span(100, 160, 120) | span(100, 160, 180) | pillar(100, 120, 180) | pillar(160, 120, 180))
 
     def test_a_filled_rectangle_is_black_from_corner_to_corner(self):
-        program.choose("filled box")
-        program.wait_says("je tekent nu een GEVULDE RECHTHOEK")
+        self.program.choose("filled box")
+        self.program.wait_says("je tekent nu een GEVULDE RECHTHOEK")
         self.sheet.drag((100, 120), (130, 160))
         self.assertEqual(self.black(), {(x, y) for x in range(100, 131) for y in range(120, 161)})
 
     def test_a_click_with_the_circle_tool_draws_the_smallest_ring(self):
-        program.choose("circle")
-        program.wait_says("LEGE cirkels maken : stel eerst de diameter in")
-        desktop.click(*self.sheet.at(200, 150))
+        self.program.choose("circle")
+        self.program.wait_says("LEGE cirkels maken : stel eerst de diameter in")
+        self.desktop.click(*self.sheet.at(200, 150))
         ring = self.black()
         self.assertEqual(extent(ring), (197, 147, 203, 153))
         self.symmetric(ring, 400, 300)
         self.assertNotIn((200, 150), ring)
 
     def test_a_circle_has_the_sliders_radius_round_the_press(self):
-        program.choose("circle")
-        program.set_radius(40)
-        program.wait_says("hiermee verandert de DIAMETER (doorsnede) van de CIRKEL")
-        program.wait_says("40")
+        self.program.choose("circle")
+        self.program.set_radius(40)
+        self.program.wait_says("hiermee verandert de DIAMETER (doorsnede) van de CIRKEL")
+        self.program.wait_says("40")
         self.sheet.drag((200, 150), (260, 190))
         ring = self.black()
         self.assertEqual(extent(ring), (160, 110, 240, 190))
@@ -155,10 +131,10 @@ class Shapes(unittest.TestCase):
         self.assertIn((200, 150), inside(ring))
 
     def test_a_filled_circle_is_full(self):
-        program.choose("filled circle")
-        program.wait_says("GEVULDE cirkels maken : stel eerst de diameter in")
-        program.set_radius(30)
-        desktop.click(*self.sheet.at(200, 150))
+        self.program.choose("filled circle")
+        self.program.wait_says("GEVULDE cirkels maken : stel eerst de diameter in")
+        self.program.set_radius(30)
+        self.desktop.click(*self.sheet.at(200, 150))
         disc = self.black()
         self.assertEqual(extent(disc), (170, 120, 230, 180))
         self.symmetric(disc, 400, 300)
@@ -167,8 +143,8 @@ class Shapes(unittest.TestCase):
         self.assertGreater(len(disc), 3.14 * 29.5 ** 2)
 
     def test_a_filled_circle_released_outside_fills_the_surroundings(self):
-        program.choose("filled circle")
-        program.set_radius(30)
+        self.program.choose("filled circle")
+        self.program.set_radius(30)
         self.sheet.drag((200, 150), (300, 150))
         painted = self.black()
         self.assertIn((0, 0), painted)
@@ -176,8 +152,8 @@ class Shapes(unittest.TestCase):
 
     def ellipse(self, tool, says):
         """Draws one round (300, 200), 60 to the side and 40 down; the frame that follows the pointer is 15 wider and higher."""
-        program.choose(tool)
-        program.wait_says(says)
+        self.program.choose(tool)
+        self.program.wait_says(says)
         self.sheet.drag((300, 200), (360, 240))
         painted = self.black()
         self.assertEqual(extent(painted), (307 - 67, 207 - 47, 307 + 67, 207 + 47))
@@ -196,44 +172,44 @@ class Shapes(unittest.TestCase):
         self.assertAlmostEqual(len(disc) / (3.14159 * 67.5 * 47.6), 1, delta=0.03)
 
     def test_undo_is_offered_for_tools_that_can_be_undone(self):
-        undo = program.control(kraspret.UNDO)
+        undo = self.program.control(kraspret.UNDO)
         for tool, offered in (("opvullen van een gesloten oppervlak", False), ("een rechte lijn trekken", True),
                               ("het kleurenpipetje om kleuren uit afbeeldingen te gebruiken", False),
                               ("een gewone ellips", True)):
-            program.control(tool).click()
+            self.program.control(tool).click()
             driver.until(lambda: undo.enabled == offered, f"undo {'on' if offered else 'off'} for {tool!r}")
 
     def wait_offered(self, name, offered):
         """Waits until the first button of this name can, or cannot, be pressed."""
-        driver.until(lambda: program.control(name).enabled == offered, f"{name!r} {'on' if offered else 'off'}")
+        driver.until(lambda: self.program.control(name).enabled == offered, f"{name!r} {'on' if offered else 'off'}")
 
     def test_undo_and_redo_swap_the_sheet_before_and_after_the_last_line(self):
-        program.choose("line")
+        self.program.choose("line")
         self.sheet.drag((40, 50), (140, 50))
         self.sheet.drag((40, 100), (140, 100))
         before, after = span(40, 139, 50), span(40, 139, 50) | span(40, 139, 100)
         self.wait_offered(kraspret.UNDO, True)
         self.wait_offered(kraspret.REDO, False)
         for _ in range(2):
-            program.control(kraspret.UNDO).click()
+            self.program.control(kraspret.UNDO).click()
             self.wait_offered(kraspret.UNDO, False)
             self.wait_offered(kraspret.REDO, True)
-            program.wait_pixel(100, 100, WHITE)
-            program.wait_pixel(100, 50, BLACK)
-            program.control(kraspret.REDO).click()
+            self.program.wait_pixel(100, 100, WHITE)
+            self.program.wait_pixel(100, 50, BLACK)
+            self.program.control(kraspret.REDO).click()
             self.wait_offered(kraspret.UNDO, True)
             self.wait_offered(kraspret.REDO, False)
-            program.wait_pixel(100, 100, BLACK)
+            self.program.wait_pixel(100, 100, BLACK)
         self.assertEqual(self.black(), after)
-        program.control(kraspret.UNDO).click()
+        self.program.control(kraspret.UNDO).click()
         self.wait_offered(kraspret.UNDO, False)
         self.assertEqual(self.black(), before)
 
     def test_a_colour_holds_until_a_button_that_gives_a_new_pen(self):
-        program.choose("filled box")
-        red = program.pick((255, 0, 0))
+        self.program.choose("filled box")
+        red = self.program.pick((255, 0, 0))
         self.sheet.drag((100, 100), (120, 110))
-        program.choose("filled box")
+        self.program.choose("filled box")
         self.sheet.drag((200, 100), (220, 110))
         picture = self.saved()
         self.assertNotIn(red, (BLACK, WHITE))
@@ -241,12 +217,12 @@ class Shapes(unittest.TestCase):
         self.assertEqual({picture.at(x, y) for x in range(200, 221) for y in range(100, 111)}, {BLACK})
 
     def test_a_fill_stops_at_the_outline(self):
-        program.choose("box")
+        self.program.choose("box")
         self.sheet.drag((100, 100), (160, 140))
-        program.choose("fill")
-        program.wait_says("je kunt nu vlakken in je tekening OPVULLEN")
-        blue = program.pick((0, 0, 255))
-        desktop.click(*self.sheet.at(130, 120))
+        self.program.choose("fill")
+        self.program.wait_says("je kunt nu vlakken in je tekening OPVULLEN")
+        blue = self.program.pick((0, 0, 255))
+        self.desktop.click(*self.sheet.at(130, 120))
         picture = self.saved()
         self.assertEqual({p for p in picture.others(WHITE) if picture.at(*p) == blue},
                          {(x, y) for x in range(101, 160) for y in range(101, 140)})
@@ -254,8 +230,8 @@ class Shapes(unittest.TestCase):
                          span(100, 160, 100) | span(100, 160, 140) | pillar(100, 100, 140) | pillar(160, 100, 140))
 
     def test_the_pointers_place_is_told(self):
-        desktop.move(*self.sheet.at(123, 45))
-        program.wait_says("X=123  Y=45")
+        self.desktop.move(*self.sheet.at(123, 45))
+        self.program.wait_says("X=123  Y=45")
 
 
 if __name__ == "__main__":

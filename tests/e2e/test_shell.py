@@ -2,6 +2,7 @@
 import time
 import unittest
 
+import cases
 import driver
 import kraspret
 from kraspret import MENU, STUDIO
@@ -9,23 +10,10 @@ from kraspret import MENU, STUDIO
 SLACK = 4.0  # seconds that a busy machine may add to a timer
 
 
-def setUpModule():
-    global desktop
-    desktop = driver.Desktop()
-
-
-def tearDownModule():
-    desktop.close()
-
-
-class Shell(unittest.TestCase):
-    def start(self):
-        program = kraspret.start(desktop)
-        self.addCleanup(driver.stop, program.process)
-        return program
-
+class Shell(cases.Case):
     def test_the_intro_gives_way_to_the_menu_after_three_seconds(self):
-        program = self.start()
+        program = kraspret.start(self.desktop)
+        self.addCleanup(driver.stop, program.process)
         program.wait_intro()
         seen = time.monotonic()
         self.assertIsNone(program.find("Stoppen"), "the menu is there before the intro has had its time")
@@ -37,7 +25,6 @@ class Shell(unittest.TestCase):
 
     def test_a_name_survives_a_no_and_the_studio_and_is_thanked_at_the_end(self):
         program = self.start()
-        program.wait_menu()
         program.give_name("Jan")
 
         text = program.quit("Nee")
@@ -62,7 +49,6 @@ class Shell(unittest.TestCase):
 
     def test_a_child_without_a_name_is_thanked_as_friend(self):
         program = self.start()
-        program.wait_menu()
         program.quit()
         program.control("Bedankt,")
         self.assertIn("vriendje", [c.text for c in program.controls() if c.role == "text"])
@@ -70,33 +56,29 @@ class Shell(unittest.TestCase):
 
     def test_a_name_has_at_most_sixteen_characters(self):
         program = self.start()
-        program.wait_menu()
         field = program.name_field()
         program.wait_focus(field)
-        desktop.type("abcdefghijklmnopqrst")
+        self.desktop.type("abcdefghijklmnopqrst")
         driver.until(lambda: len(field.text) >= 16, "sixteen characters")
-        desktop.key("BackSpace")
+        self.desktop.key("BackSpace")
         driver.until(lambda: field.text == "abcdefghijklmno", lambda: f"fifteen characters but {field.text!r}")
 
     def test_closing_the_menus_window_ends_the_program(self):
         program = self.start()
-        desktop.close_window(program.wait_menu())
+        self.desktop.close_window(program.wait_menu())
         self.assertEqual(program.wait_exit(), 0, program.output())
 
     def test_closing_the_studios_window_brings_the_menu_back(self):
         program = self.start()
-        program.wait_menu()
         program.give_name("An")
         program.open_studio()
-        desktop.close_window(program.wait_window(STUDIO))
+        self.desktop.close_window(program.wait_window(STUDIO))
         program.wait_gone(STUDIO)
         program.wait_menu()
         self.assertEqual(program.name_field().text, "An")
 
     def test_the_picture_of_the_command_line_is_no_toolkit_option(self):
-        program = kraspret.start(desktop, "-platform", "nonsense")
-        self.addCleanup(driver.stop, program.process)
-        program.wait_menu()
+        self.start("-platform", "nonsense")
 
 
 if __name__ == "__main__":
