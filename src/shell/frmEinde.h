@@ -7,8 +7,6 @@ class frmEinde : public surface::Form {
  public:
   frmEinde();
 
-  surface::ImageControl Image9{
-      *this, {.Left = 120, .Top = 0, .Width = 6375, .Height = 6135, .Picture = "welkom"}};
   surface::Label Label2{*this,
                         {.Left = 3960,
                          .Top = 6120,
@@ -17,7 +15,7 @@ class frmEinde : public surface::Form {
                          .Caption = "Bedankt,  ",
                          .BackColor = 0xC0FFC0,
                          .ForeColor = 0x0000FF,
-                         .Font = {"Arial", 18, true}}};
+                         .Font = {"Arial", 16.5f, true}}};
   surface::TextBox txtNaam2{*this,
                             {.Left = 5520,
                              .Top = 6120,
@@ -28,6 +26,7 @@ class frmEinde : public surface::Form {
                              .Font = {"Arial", 18, true},
                              .Locked = true,
                              .Border = false}};
+  // Letters of one width: with them the runs of blanks break the lines where a thought ends.
   surface::Label Label1{
       *this,
       {.Left = 3960,
@@ -38,7 +37,10 @@ class frmEinde : public surface::Form {
                   "voor je moeite en ...          tot een volgende keer !",
        .BackColor = 0xC0FFC0,
        .ForeColor = 0x0000FF,
-       .Font = {"Arial", 15.75f, true}}};
+       .Font = {"Courier New", 12.75f, true}}};
+  // Above the texts, which reach a pixel into it.
+  surface::ImageControl Image9{
+      *this, {.Left = 120, .Top = 0, .Width = 6375, .Height = 6135, .Picture = "welkom"}};
   surface::TimerControl Timer1{{.Interval = 3500}};
 
  private:

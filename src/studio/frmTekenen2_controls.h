@@ -203,7 +203,14 @@ class frmTekenen2_controls : public surface::Form {
   surface::Frame fraEffecten{*this, panel(1335, "EFFECTEN")};
 
   surface::Frame fraGommen{*this, panel(1455, "GOMMEN")};
-  surface::Label Label7{fraGommen, text(120, 360, 1155, "klik=veranderen", PanelBack)};
+  surface::Label Label7{fraGommen,
+                        {.Left = 120,
+                         .Top = 360,
+                         .Width = 1155,
+                         .Height = 255,
+                         .Caption = "klik=veranderen",
+                         .BackColor = PanelBack,
+                         .Font = {.Size = 7.5f}}};
   surface::PictureBox picGommen{fraGommen,
                                 {.Left = 1320,
                                  .Top = 240,
@@ -223,7 +230,7 @@ class frmTekenen2_controls : public surface::Form {
                            .BackColor = PanelBack}};
   surface::LineControl Line3{
       fraGommen, {.X1 = 1320, .Y1 = 960, .X2 = 1560, .Y2 = 960, .BorderColor = surface::White}};
-  surface::Label Label6{fraGommen, text(360, 1080, 1275, "dikte veranderen", PanelBack)};
+  surface::Label Label6{fraGommen, text(360, 1080, 1395, "dikte veranderen", PanelBack)};
 
   // Messages
   surface::Label Label8{*this, text(120, 7080, 1155, "coördinaten")};
