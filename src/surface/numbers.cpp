@@ -44,14 +44,19 @@ std::string_view trimmed(std::string_view text) {
   return text;
 }
 
+// A plus before a digit or separator says nothing; before a minus it makes the text no number.
+std::string_view withoutPlus(std::string_view text) {
+  if (text.size() > 1 && text[0] == '+' && text[1] != '-') text.remove_prefix(1);
+  return text;
+}
+
 }  // namespace
 
 std::int16_t toInt16(double value) { return narrow<std::int16_t>(value); }
 std::int32_t toInt32(double value) { return narrow<std::int32_t>(value); }
 
 double Val(const std::string& text) {
-  std::string_view rest = trimmed(text);
-  if (!rest.empty() && rest.front() == '+') rest.remove_prefix(1);
+  const std::string_view rest = withoutPlus(trimmed(text));
   double value = 0;
   const auto result = std::from_chars(rest.data(), rest.data() + rest.size(), value);
   return result.ec == std::errc{} && std::isfinite(value) ? value : 0;
@@ -68,8 +73,7 @@ double toNumber(const std::string& text) {
   std::string copy(trimmed(text));
   const bool foreign = theSeparator != '.' && copy.find('.') != std::string::npos;
   std::replace(copy.begin(), copy.end(), theSeparator, '.');
-  std::string_view rest = copy;
-  if (!rest.empty() && rest.front() == '+') rest.remove_prefix(1);
+  const std::string_view rest = withoutPlus(copy);
   double value = 0;
   const auto result = std::from_chars(rest.data(), rest.data() + rest.size(), value);
   const bool whole = result.ec == std::errc{} && result.ptr == rest.data() + rest.size();
