@@ -3,6 +3,7 @@
 #include "surface/form.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "surface/host.h"
 #include "surface/numbers.h"
@@ -61,7 +62,11 @@ void Form::controlShown(Control& control) {
   if (peer_) peer_->addControl(control);
 }
 
-void Form::windowResized(int width, int height) { setInnerSize(width, height); }
+void Form::windowResized(int width, int height) {
+  setInnerSize(width, height);
+  Width.setQuietly(static_cast<float>(width * TwipsPerPixel) + FrameWidth);
+  Height.setQuietly(static_cast<float>(height * TwipsPerPixel) + FrameHeight);
+}
 
 void Form::closeBoxPressed() {
   HandlerScope scope;
@@ -99,8 +104,8 @@ Form* FormRegistry::defaultInstance(std::type_index type) const {
 void FormRegistry::unload(Form& form) {
   const auto found = std::find_if(forms_.begin(), forms_.end(),
                                   [&](const auto& owned) { return owned.get() == &form; });
-  // Unloading twice in one handler is harmless.
-  if (found == forms_.end()) return;
+  // Unloading twice in one handler is harmless, and so is unloading in the form's own FormUnload.
+  if (found == forms_.end() || std::exchange(form.unloading_, true)) return;
   form.FormUnload();
   form.Hide();
   std::erase_if(defaults_, [&](const Default& entry) { return entry.form == &form; });

@@ -93,6 +93,7 @@ class Form : public DrawingSurface, public Container {
   bool shown_ = false;
   bool topMost_ = false;
   bool placed_ = false;
+  bool unloading_ = false;
 };
 
 /// Owns every loaded form.
