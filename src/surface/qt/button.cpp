@@ -69,7 +69,7 @@ void ButtonWidget::paintEvent(QPaintEvent*) {
 }
 
 void ButtonWidget::mouseReleaseEvent(QMouseEvent* event) {
-  const Mouse mouse = toMouse(*event, TwipsPerPixel);
+  const Mouse mouse = toMouse(*event);
   QPushButton::mouseReleaseEvent(event);
   if (control) dispatch([&] { control->MouseUp(mouse); });
 }

@@ -5,6 +5,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScreen>
+#include <QWindow>
 
 #include "surface/qt/art.h"
 #include "surface/qt/peers.h"
@@ -78,7 +79,9 @@ FormWindow::FormWindow(Form& owner) : QWidget(nullptr, flagsOf(owner)), form(&ow
 }
 
 void FormWindow::sync() {
-  setWindowTitle(QString::fromStdString(form->Caption));
+  // For a window without a caption the toolkit would show the program's file name.
+  const QString caption = QString::fromStdString(form->Caption);
+  setWindowTitle(caption.isEmpty() ? " " : caption);
   setCursor(toCursor(form->MousePointer, {}));
   if (form->placed()) applyPlace();
   if (form->topMost() != windowFlags().testFlag(Qt::WindowStaysOnTopHint)) {
@@ -94,7 +97,14 @@ void FormWindow::applyPlace() {
     resize(inner.width(), inner.height());
   else
     setFixedSize(inner.width(), inner.height());
-  move(static_cast<int>(form->Left / TwipsPerPixel), static_cast<int>(form->Top / TwipsPerPixel));
+  // The place is that of the frame. A window that has just been shown has none yet: only the window
+  // manager can reckon with it, or the title bar would end up beyond the screen's edge.
+  const QPoint corner(static_cast<int>(form->Left / TwipsPerPixel),
+                      static_cast<int>(form->Top / TwipsPerPixel));
+  if (windowHandle() && isVisible())
+    windowHandle()->setFramePosition(corner);
+  else
+    move(corner);
 }
 
 void FormWindow::paintEvent(QPaintEvent* event) {
@@ -116,8 +126,7 @@ void FormWindow::resizeEvent(QResizeEvent* event) {
 }
 
 void FormWindow::mouseReleaseEvent(QMouseEvent* event) {
-  const auto unitsPerPixel = static_cast<double>(ScaleX(1, ScalePixels, form->ScaleMode()));
-  if (form) dispatch([&] { form->MouseUp(toMouse(*event, unitsPerPixel)); });
+  if (form) dispatch([&] { form->MouseUp(toMouse(*event, *form)); });
 }
 
 }  // namespace surface::qt

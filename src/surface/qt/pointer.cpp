@@ -6,7 +6,7 @@
 
 namespace surface::qt {
 
-Mouse toMouse(const QMouseEvent& event, double unitsPerPixel) {
+Mouse toMouse(const QMouseEvent& event) {
   const bool move = event.type() == QEvent::MouseMove;
   const Qt::MouseButtons buttons = move ? event.buttons() : Qt::MouseButtons(event.button());
   Mouse mouse;
@@ -16,8 +16,17 @@ Mouse toMouse(const QMouseEvent& event, double unitsPerPixel) {
   mouse.Shift = (keys & Qt::ShiftModifier ? 1 : 0) | (keys & Qt::ControlModifier ? 2 : 0) |
                 (keys & Qt::AltModifier ? 4 : 0);
   const QPoint at = event.position().toPoint();
-  mouse.X = static_cast<float>(at.x() * unitsPerPixel);
-  mouse.Y = static_cast<float>(at.y() * unitsPerPixel);
+  mouse.X = static_cast<float>(at.x() * TwipsPerPixel);
+  mouse.Y = static_cast<float>(at.y() * TwipsPerPixel);
+  return mouse;
+}
+
+Mouse toMouse(const QMouseEvent& event, const DrawingSurface& surface) {
+  Mouse mouse = toMouse(event);
+  const QPoint at = event.position().toPoint();
+  const PointF place = surface.toScale(at.x(), at.y());
+  mouse.X = place.X;
+  mouse.Y = place.Y;
   return mouse;
 }
 

@@ -5,13 +5,16 @@
 #include <QMouseEvent>
 #include <string>
 
+#include "surface/drawing.h"
 #include "surface/event.h"
 
 namespace surface::qt {
 
-/// A press or release: the one button concerned; a move: all that are held. Positions times
-/// `unitsPerPixel`.
-Mouse toMouse(const QMouseEvent& event, double unitsPerPixel);
+/// A press or release: the one button concerned; a move: all that are held. Positions in the scale
+/// of the surface.
+Mouse toMouse(const QMouseEvent& event, const DrawingSurface& surface);
+/// The same on a control without a scale of its own: positions in twips.
+Mouse toMouse(const QMouseEvent& event);
 
 /// The cursor of a MousePointer value; 99 is the named cursor picture.
 QCursor toCursor(int pointer, const std::string& icon);

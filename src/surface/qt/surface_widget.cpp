@@ -50,11 +50,9 @@ void SurfaceWidget::paintEvent(QPaintEvent* event) {
   paintWindowless(painter, *control);
 }
 
-double SurfaceWidget::unitsPerPixel() const { return TwipsPerPixel / control->twipsPerUnit(); }
-
 void SurfaceWidget::mousePressEvent(QMouseEvent* event) {
   event->accept();
-  if (control) dispatch([&] { control->MouseDown(toMouse(*event, unitsPerPixel())); });
+  if (control) dispatch([&] { control->MouseDown(toMouse(*event, *control)); });
 }
 
 // The second press of a double click is a press like any other: two quick dots are two dots.
@@ -62,12 +60,12 @@ void SurfaceWidget::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(
 
 void SurfaceWidget::mouseMoveEvent(QMouseEvent* event) {
   event->accept();
-  if (control) dispatch([&] { control->MouseMove(toMouse(*event, unitsPerPixel())); });
+  if (control) dispatch([&] { control->MouseMove(toMouse(*event, *control)); });
 }
 
 void SurfaceWidget::mouseReleaseEvent(QMouseEvent* event) {
   event->accept();
-  if (control) dispatch([&] { control->MouseUp(toMouse(*event, unitsPerPixel())); });
+  if (control) dispatch([&] { control->MouseUp(toMouse(*event, *control)); });
   const bool inside = rect().contains(event->position().toPoint());
   if (control && inside && event->button() == Qt::LeftButton)
     dispatch([this] { control->Click(); });

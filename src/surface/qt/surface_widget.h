@@ -21,9 +21,6 @@ class SurfaceWidget : public QWidget {
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
-
- private:
-  double unitsPerPixel() const;
 };
 
 class SurfaceWidgetPeer : public WidgetPeer<SurfaceWidget, SurfacePeer> {
