@@ -143,6 +143,9 @@ void SliderWidget::sync(Aspect aspect) {
 ScrollWidget::ScrollWidget(HScrollBar& owner, QWidget& parent)
     : QScrollBar(Qt::Horizontal, &parent), control(&owner) {
   setRange(owner.Min, owner.Max);
+  // The toolkit means its scroll bars for the mouse alone.
+  setFocusPolicy(Qt::StrongFocus);
+  setInvertedControls(false);
   QObject::connect(this, &QScrollBar::valueChanged, this, [this](int value) {
     if (control) dispatch([&] { control->Value = value; });
   });

@@ -36,6 +36,10 @@ class CheckWidget : public QCheckBox {
   void sync(Aspect aspect);
 
   CheckBox* control;
+
+ protected:
+  // All of its place takes the click, not only the letters.
+  bool hitButton(const QPoint& at) const override { return rect().contains(at); }
 };
 
 class OptionWidget : public QRadioButton {
@@ -44,6 +48,10 @@ class OptionWidget : public QRadioButton {
   void sync(Aspect aspect);
 
   OptionButton* control;
+
+ protected:
+  // All of its place takes the click, not only the letters.
+  bool hitButton(const QPoint& at) const override { return rect().contains(at); }
 };
 
 class ComboWidget : public QComboBox {
