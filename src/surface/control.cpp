@@ -33,13 +33,15 @@ Control::Control(Container& container, const Place& place, bool visible)
 
 Control::~Control() { std::erase(container_.controls_, this); }
 
+int Control::toPixels(float length) const {
+  const double pixels = length * container_.twipsPerUnit() / TwipsPerPixel;
+  // Far beyond any screen, and far from what an int can hold.
+  return static_cast<int>(roundEven(std::clamp(pixels, -1e6, 1e6)));
+}
+
 raster::Rect Control::pixelPlace() const {
-  const double scale = container_.twipsPerUnit() / TwipsPerPixel;
-  const auto pixels = [scale](float value) {
-    return static_cast<int>(roundEven(std::clamp(value * scale, -1e6, 1e6)));
-  };
-  const int left = pixels(Left), top = pixels(Top);
-  return {left, top, left + pixels(Width), top + pixels(Height)};
+  const int left = toPixels(Left), top = toPixels(Top);
+  return {left, top, left + toPixels(Width), top + toPixels(Height)};
 }
 
 void Control::widthChanged(const float& former) {

@@ -98,6 +98,8 @@ class Control {
   void setPeer(std::unique_ptr<Peer> peer) { peer_ = std::move(peer); }
 
  protected:
+  /// A length or position in the container's scale to pixels.
+  int toPixels(float length) const;
   void changed(Aspect aspect);
   /// Hook for surfaces: the size in pixels has changed. May throw to refuse it.
   virtual void resized() {}

@@ -13,6 +13,16 @@ namespace {
 // A drop-down list's height follows from its font, not from its design.
 constexpr float ComboHeight = 315;
 
+// The first `count` characters of a text in UTF-8.
+std::string beginning(const std::string& text, int count) {
+  std::size_t end = 0;
+  for (; end < text.size(); ++end) {
+    const bool starts = (static_cast<unsigned char>(text[end]) & 0xC0) != 0x80;
+    if (starts && count-- == 0) break;
+  }
+  return text.substr(0, end);
+}
+
 }  // namespace
 
 CommandButton::CommandButton(Container& container, const Design& d)
@@ -50,6 +60,7 @@ TextBox::TextBox(Container& container, const Design& d)
 }
 
 void TextBox::textChanged() {
+  if (MaxLength > 0) Text.setQuietly(beginning(Text, MaxLength));
   valueChanged();
   Change();
 }
@@ -198,11 +209,14 @@ LineControl::LineControl(Container& container, const Design& d)
       BorderColor(*this, d.BorderColor),
       BorderWidth(*this, d.BorderWidth) {}
 
+raster::Rect LineControl::pixelEnds() const {
+  return {toPixels(X1), toPixels(Y1), toPixels(X2), toPixels(Y2)};
+}
+
 raster::Rect LineControl::paintedPixels() const {
-  const double scale = container().twipsPerUnit() / TwipsPerPixel;
-  const auto pixel = [scale](float value) { return static_cast<int>(roundEven(value * scale)); };
-  const auto [left, right] = std::minmax(pixel(X1), pixel(X2));
-  const auto [top, bottom] = std::minmax(pixel(Y1), pixel(Y2));
+  const raster::Rect ends = pixelEnds();
+  const auto [left, right] = std::minmax(ends.left, ends.right);
+  const auto [top, bottom] = std::minmax(ends.top, ends.bottom);
   return {left - BorderWidth, top - BorderWidth, right + BorderWidth + 1, bottom + BorderWidth + 1};
 }
 

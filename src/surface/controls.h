@@ -277,9 +277,11 @@ class LineControl : public Control {
   Prop<float, &LineControl::lookChanged> X2;
   Prop<float, &LineControl::lookChanged> Y2;
   Prop<Color, &LineControl::lookChanged> BorderColor;
-  Prop<int, &LineControl::lookChanged> BorderWidth;
+  Prop<int, &LineControl::lookChanged, check::drawWidth> BorderWidth;  ///< pixels, 1 and up
 
   bool windowless() const override { return true; }
+  /// From (left, top) to (right, bottom), in this order, in pixels within the container.
+  raster::Rect pixelEnds() const;
   raster::Rect paintedPixels() const override;
 };
 
@@ -297,7 +299,7 @@ class ShapeControl : public Control {
 
   Prop<Color, &ShapeControl::lookChanged, check::color> FillColor;
   Prop<Color, &ShapeControl::lookChanged> BorderColor;
-  Prop<int, &ShapeControl::lookChanged> BorderWidth;
+  Prop<int, &ShapeControl::lookChanged, check::drawWidth> BorderWidth;  ///< pixels, 1 and up
   Prop<int, &ShapeControl::lookChanged> DrawMode;
   const bool Oval, Filled;
 

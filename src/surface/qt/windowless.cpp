@@ -2,7 +2,6 @@
 #include "surface/qt/windowless.h"
 
 #include <QPainter>
-#include <cmath>
 
 #include "surface/controls.h"
 #include "surface/qt/peers.h"
@@ -11,12 +10,9 @@ namespace surface::qt {
 namespace {
 
 void paintLine(QPainter& painter, const LineControl& line) {
-  const double scale = line.container().twipsPerUnit() / TwipsPerPixel;
-  const auto pixel = [scale](float value) {
-    return static_cast<int>(std::nearbyint(value * scale));
-  };
+  const raster::Rect ends = line.pixelEnds();
   painter.setPen(QPen(toQColor(line.BorderColor), line.BorderWidth, Qt::SolidLine, Qt::FlatCap));
-  painter.drawLine(pixel(line.X1), pixel(line.Y1), pixel(line.X2), pixel(line.Y2));
+  painter.drawLine(ends.left, ends.top, ends.right, ends.bottom);
 }
 
 void paintShape(QPainter& painter, const ShapeControl& shape) {
