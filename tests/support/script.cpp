@@ -174,6 +174,7 @@ void Stage::click(Control& control, int button) {
 }
 
 void Stage::type(const std::string& text) {
+  settle();
   if (QWindow* window = QGuiApplication::focusWindow())
     for (const QChar c : QString::fromStdString(text)) QTest::keyClick(window, c.toLatin1());
   settle();

@@ -1,0 +1,328 @@
+// What a child sees of the controls: exact colours, captions and their blanks, tooltips, windowless
+// lines and shapes; and what a screen reader hears.
+#include <QApplication>
+#include <QImage>
+#include <QWidget>
+
+#include "support/errors.h"
+#include "support/script.h"
+
+using namespace surface;
+
+namespace {
+
+constexpr Color Red = 0x0000FF, Green = 0x00FF00;
+
+class ShopWindow : public Form {
+ public:
+  ShopWindow() : Form({.BackColor = 0x336699, .Width = 7500, .Height = 6000}) {}
+
+  CommandButton cmdRood{*this,
+                        {.Left = 150,
+                         .Top = 150,
+                         .Width = 1500,
+                         .Height = 600,
+                         .Caption = "&Rood",
+                         .ToolTipText = "kies rood",
+                         .BackColor = 0x1122EE}};
+  CommandButton cmdPlaatje{*this,
+                           {.Left = 150,
+                            .Top = 900,
+                            .Width = 375,
+                            .Height = 375,
+                            .Picture = "lijn",
+                            .ToolTipText = "een rechte lijn trekken"}};
+  Label lblTekst{*this,
+                 {.Left = 1800,
+                  .Top = 150,
+                  .Width = 1500,
+                  .Height = 900,
+                  .BackColor = 0x00FFFF,
+                  .ForeColor = 0x800000,
+                  .Font = {"Arial", 9}}};
+  TextBox txtNaam{*this,
+                  {.Left = 3450,
+                   .Top = 150,
+                   .Width = 1500,
+                   .Height = 600,
+                   .BackColor = 0xC0FFFF,
+                   .ForeColor = 0x800080}};
+  Frame fraRand{*this,
+                {.Left = 3450,
+                 .Top = 900,
+                 .Width = 1500,
+                 .Height = 900,
+                 .Caption = "RAND",
+                 .BackColor = 0xC0FFC0}};
+  LineControl lnRand{fraRand, {.X1 = 300, .Y1 = 600, .X2 = 900, .Y2 = 600, .BorderColor = Red}};
+  OptionButton Option1{*this,
+                       {.Left = 150,
+                        .Top = 1500,
+                        .Width = 1500,
+                        .Height = 375,
+                        .Caption = "een",
+                        .BackColor = 0xC0FFC0}};
+  CheckBox chkAan{*this,
+                  {.Left = 150,
+                   .Top = 2100,
+                   .Width = 1500,
+                   .Height = 375,
+                   .Caption = "aan",
+                   .BackColor = 0xFFC0FF}};
+  PictureBox sheet{*this, PictureBox::Design{.Left = 150,
+                                             .Top = 2700,
+                                             .Width = 1500,
+                                             .Height = 1500,
+                                             .ScaleMode = ScalePixels,
+                                             .AutoRedraw = true,
+                                             .ToolTipText = "het blad",
+                                             .BackColor = White}};
+  LineControl Line1{sheet,
+                    {.X1 = 150,
+                     .Y1 = 150,
+                     .X2 = 1200,
+                     .Y2 = 150,
+                     .BorderColor = Red,
+                     .BorderWidth = 3,
+                     .Visible = false}};
+  ShapeControl Shape1{sheet,
+                      {.Left = 300,
+                       .Top = 450,
+                       .Width = 600,
+                       .Height = 450,
+                       .Filled = true,
+                       .FillColor = Green,
+                       .BorderColor = Red,
+                       .Visible = false}};
+  ShapeControl Oval{sheet,
+                    {.Left = 300,
+                     .Top = 450,
+                     .Width = 600,
+                     .Height = 450,
+                     .Oval = true,
+                     .BorderColor = Red,
+                     .Visible = false}};
+};
+
+QColor color(Color c) { return QColor::fromRgb(toPixel(c)); }
+
+/// The first column that shows anything but the ground.
+int firstInk(const QImage& image, QRgb ground) {
+  for (int x = 0; x < image.width(); ++x)
+    for (int y = 0; y < image.height(); ++y)
+      if (image.pixel(x, y) != ground) return x;
+  return -1;
+}
+
+/// How many lines of text there are.
+int inkedRows(const QImage& image, QRgb ground) {
+  int rows = 0;
+  bool before = false;
+  for (int y = 0; y < image.height(); ++y) {
+    bool inked = false;
+    for (int x = 0; x < image.width(); ++x) inked |= image.pixel(x, y) != ground;
+    if (inked && !before) ++rows;
+    before = inked;
+  }
+  return rows;
+}
+
+}  // namespace
+
+class Looks : public script::Stage {
+ protected:
+  Looks() { show.Show(); }
+  ShopWindow& show = the<ShopWindow>();
+};
+
+TEST_F(Looks, EveryKindShowsExactlyItsBackColor) {
+  EXPECT_EQ(shown(show).pixelColor(499, 399), color(0x336699));
+  // Inside the edges and beside the captions.
+  EXPECT_EQ(shown(show.cmdRood).pixelColor(6, 20), color(0x1122EE));
+  EXPECT_EQ(shown(show.cmdPlaatje).pixelColor(3, 3), color(0xC0C0C0));
+  EXPECT_EQ(shown(show.lblTekst).pixelColor(50, 50), color(0x00FFFF));
+  EXPECT_EQ(shown(show.lblTekst).pixelColor(0, 0), color(0x00FFFF));
+  EXPECT_EQ(shown(show.txtNaam).pixelColor(80, 20), color(0xC0FFFF));
+  EXPECT_EQ(shown(show.fraRand).pixelColor(90, 50), color(0xC0FFC0));
+  EXPECT_EQ(shown(show.Option1).pixelColor(95, 12), color(0xC0FFC0));
+  EXPECT_EQ(shown(show.chkAan).pixelColor(95, 12), color(0xFFC0FF));
+}
+
+TEST_F(Looks, AButtonKeepsItsColourWhenItIsSwitchedOff) {
+  show.cmdRood.Enabled = false;
+  EXPECT_EQ(shown(show.cmdRood).pixelColor(6, 20), color(0x1122EE));
+}
+
+TEST_F(Looks, AButtonSinksWhilePressed) {
+  const QImage before = shown(show.cmdRood);
+  press(show.cmdRood, 20, 20);
+  EXPECT_NE(shown(show.cmdRood), before);
+  release(show.cmdRood, 20, 20);
+}
+
+TEST_F(Looks, AButtonShowsItsPicture) {
+  const QImage with = shown(show.cmdPlaatje);
+  show.cmdPlaatje.Picture = "";
+  EXPECT_NE(shown(show.cmdPlaatje), with);
+}
+
+TEST_F(Looks, ACaptionThatIsTooLongBreaksAtBlanks) {
+  const QRgb ground = color(0x00FFFF).rgb();
+  show.lblTekst.Caption = "een";
+  EXPECT_EQ(inkedRows(shown(show.lblTekst), ground), 1);
+  show.lblTekst.Caption = "een woord en nog een woord";
+  EXPECT_GE(inkedRows(shown(show.lblTekst), ground), 2);
+}
+
+TEST_F(Looks, RunsOfBlanksKeepTheirWidth) {
+  const auto column = [&](const char* caption) {
+    show.lblTekst.Caption = caption;
+    return firstInk(shown(show.lblTekst), color(0x00FFFF).rgb());
+  };
+  const int none = column("I"), four = column("    I"), eight = column("        I");
+  ASSERT_GE(none, 0);
+  EXPECT_GT(four, none + 8);
+  EXPECT_NEAR(eight - four, four - none, 1);
+}
+
+TEST_F(Looks, BlanksInTheMiddlePushAWordToTheNextLine) {
+  const QRgb ground = color(0x00FFFF).rgb();
+  show.lblTekst.Caption = "dag kind";
+  EXPECT_EQ(inkedRows(shown(show.lblTekst), ground), 1);
+  show.lblTekst.Caption = "dag                              kind";
+  EXPECT_GE(inkedRows(shown(show.lblTekst), ground), 2);
+}
+
+TEST_F(Looks, TheAccessKeyMarkIsNotShownAsALetter) {
+  show.cmdRood.Caption = "Rood";
+  const QImage plain = shown(show.cmdRood);
+  show.cmdRood.Caption = "&Rood";
+  const QImage marked = shown(show.cmdRood);
+  // Only the stroke under the R is new.
+  int others = 0;
+  for (int y = 0; y < plain.height(); ++y)
+    for (int x = 0; x < plain.width(); ++x) others += plain.pixel(x, y) != marked.pixel(x, y);
+  EXPECT_GT(others, 3);
+  EXPECT_LT(others, 16);
+}
+
+TEST_F(Looks, AScreenReaderHearsTheCaptionOrElseTheTooltip) {
+  EXPECT_EQ(script::widgetOf(show.cmdRood)->accessibleName(), "Rood");
+  EXPECT_EQ(script::widgetOf(show.cmdRood)->accessibleDescription(), "kies rood");
+  EXPECT_EQ(script::widgetOf(show.cmdPlaatje)->accessibleName(), "een rechte lijn trekken");
+  EXPECT_EQ(script::widgetOf(show.sheet)->accessibleName(), "het blad");
+  EXPECT_EQ(script::widgetOf(show.fraRand)->accessibleName(), "RAND");
+  show.lblTekst.Caption = "    Dag vriendje.      Vul in.";
+  EXPECT_EQ(script::widgetOf(show.lblTekst)->accessibleName(), "Dag vriendje. Vul in.");
+}
+
+TEST_F(Looks, ANameOfItsOwnGoesBeforeCaptionAndTooltip) {
+  show.cmdRood.AccessibleName = "de rode knop";
+  show.cmdRood.ToolTipText = "kies nu rood";
+  EXPECT_EQ(script::widgetOf(show.cmdRood)->accessibleName(), "de rode knop");
+}
+
+TEST_F(Looks, TooltipsFollowTheProperty) {
+  EXPECT_EQ(script::widgetOf(show.cmdRood)->toolTip(), "kies rood");
+  show.cmdRood.ToolTipText = "iets anders";
+  EXPECT_EQ(script::widgetOf(show.cmdRood)->toolTip(), "iets anders");
+}
+
+TEST_F(Looks, AWindowlessLineIsSeenAboveTheSheetButIsNoPartOfIt) {
+  show.sheet.PSet({50, 10}, Green);
+  show.Line1.Visible = true;
+  EXPECT_EQ(shown(show.sheet).pixelColor(50, 10), color(Red)) << "the drawing covers the line";
+  EXPECT_EQ(show.sheet.Point({50, 10}), Green);
+  EXPECT_EQ(show.sheet.Point({40, 10}), White);
+  EXPECT_EQ(GetPixel(show.sheet.hDC(), 40, 10), White);
+  EXPECT_EQ(toColor(show.sheet.Image().bitmap()->at(40, 10)), White);
+  show.Line1.Visible = false;
+  EXPECT_EQ(shown(show.sheet).pixelColor(40, 10), color(White));
+  EXPECT_EQ(shown(show.sheet).pixelColor(50, 10), color(Green));
+}
+
+TEST_F(Looks, AWindowlessLineHasItsWidthAndColour) {
+  show.Line1.Visible = true;
+  const auto rows = [&] {
+    int painted = 0;
+    const QImage screen = shown(show.sheet);
+    for (int y = 0; y < 100; ++y) painted += screen.pixelColor(40, y) != color(White);
+    return painted;
+  };
+  EXPECT_EQ(rows(), 3);
+  show.Line1.BorderWidth = 8;
+  EXPECT_EQ(rows(), 8);
+  show.Line1.BorderColor = Green;
+  EXPECT_EQ(shown(show.sheet).pixelColor(40, 10), color(Green));
+}
+
+TEST_F(Looks, AWindowlessShapeIsSeenAboveTheSheetButIsNoPartOfIt) {
+  show.Shape1.Visible = true;
+  // 20..59 by 30..59 pixels.
+  QImage screen = shown(show.sheet);
+  EXPECT_EQ(screen.pixelColor(20, 30), color(Red));
+  EXPECT_EQ(screen.pixelColor(59, 59), color(Red));
+  EXPECT_EQ(screen.pixelColor(40, 45), color(Green));
+  EXPECT_EQ(screen.pixelColor(60, 60), color(White));
+  EXPECT_EQ(screen.pixelColor(19, 45), color(White));
+  EXPECT_EQ(show.sheet.Point({40, 45}), White);
+  show.Shape1.FillColor = 0x808080;
+  EXPECT_EQ(shown(show.sheet).pixelColor(40, 45), color(0x808080));
+}
+
+TEST_F(Looks, AnOvalTouchesTheMiddlesOfItsSidesOnly) {
+  show.Oval.Visible = true;
+  const QImage screen = shown(show.sheet);
+  EXPECT_EQ(screen.pixelColor(40, 30), color(Red));
+  EXPECT_EQ(screen.pixelColor(20, 45), color(Red));
+  EXPECT_EQ(screen.pixelColor(20, 30), color(White));
+  EXPECT_EQ(screen.pixelColor(40, 45), color(White)) << "it is not filled";
+}
+
+TEST_F(Looks, AMovedShapeLeavesNoTraceWhereItWas) {
+  show.Shape1.Visible = true;
+  show.Shape1.Left = 60;
+  show.Shape1.Width = 20;
+  const QImage screen = shown(show.sheet);
+  EXPECT_EQ(screen.pixelColor(20, 30), color(White));
+  EXPECT_EQ(screen.pixelColor(60, 30), color(Red));
+  EXPECT_EQ(screen.pixelColor(79, 59), color(Red));
+}
+
+TEST_F(Looks, AWindowlessLineLiesInAFrameToo) {
+  EXPECT_EQ(shown(show.fraRand).pixelColor(40, 40), color(Red));
+  show.lnRand.Visible = false;
+  EXPECT_EQ(shown(show.fraRand).pixelColor(40, 40), color(0xC0FFC0));
+}
+
+TEST_F(Looks, AWidthOfNoneIsRefusedForLinesAndShapes) {
+  EXPECT_ERROR(BadPropertyValue, show.Line1.BorderWidth = 0);
+  EXPECT_ERROR(BadPropertyValue, show.Shape1.BorderWidth = -2);
+  EXPECT_EQ(show.Line1.BorderWidth, 3);
+}
+
+TEST_F(Looks, AShapeFarBeyondTheSheetHarmsNothing) {
+  show.Line1.Visible = true;
+  EXPECT_NO_THROW(show.Line1.X2 = 1e30f);
+  EXPECT_NO_THROW(show.Line1.Y1 = -1e30f);
+  show.Shape1.Visible = true;
+  EXPECT_NO_THROW(show.Shape1.Left = -1e30f);
+  EXPECT_FALSE(shown(show.sheet).isNull());
+}
+
+TEST_F(Looks, ControlsAreStackedInTheOrderOfTheirDeclaration) {
+  class Stack : public Form {
+   public:
+    Stack() : Form({.Width = 3000, .Height = 3000}) {}
+    Label under{*this, {.Width = 1500, .Height = 1500, .BackColor = Red}};
+    Label between{*this, {.Width = 1500, .Height = 1500, .BackColor = Green, .Visible = false}};
+    Label over{*this, {.Left = 750, .Width = 1500, .Height = 1500, .BackColor = White}};
+  };
+  Stack& stack = the<Stack>();
+  stack.Show();
+  EXPECT_EQ(shown(stack).pixelColor(75, 50), color(White));
+  // Also one that appears later.
+  stack.between.Visible = true;
+  EXPECT_EQ(shown(stack).pixelColor(25, 50), color(Green));
+  EXPECT_EQ(shown(stack).pixelColor(75, 50), color(White));
+}
