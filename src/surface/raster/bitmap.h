@@ -44,7 +44,11 @@ class Bitmap {
   int width() const { return width_; }
   int height() const { return height_; }
   Rect bounds() const { return {0, 0, width_, height_}; }
-  bool contains(int x, int y) const { return x >= 0 && y >= 0 && x < width_ && y < height_; }
+  bool contains(int x, int y) const {
+    // Negative numbers become large ones.
+    return static_cast<unsigned>(x) < static_cast<unsigned>(width_) &&
+           static_cast<unsigned>(y) < static_cast<unsigned>(height_);
+  }
 
   /// The pixels of row y, 0..height-1; unchecked.
   Pixel* row(int y) { return pixels_ + static_cast<std::size_t>(y) * width_; }

@@ -12,6 +12,7 @@ namespace raster {
 
 constexpr Pixel kOpaque = 0xFF000000;
 constexpr Pixel kColorBits = 0x00FFFFFF;
+constexpr int kCopy = 13;  ///< the raster operation that paints the pen's colour
 
 /// A raster operation with a fixed colour. Bit by bit it can only clear, set, keep or invert what
 /// is there, so `(pixel & keep) ^ flip` says all sixteen of them, the top byte stays 0xFF, and a
@@ -29,7 +30,6 @@ struct Ink {
 
 /// The ink of raster operation 1..16: bit 2P + D of rop - 1 is the result for pen bit P on bit D.
 inline Ink inkOf(int rop, Pixel color) {
-  constexpr int kCopy = 13;
   if (rop == kCopy) return {0, color | kOpaque};
   const unsigned table = static_cast<unsigned>(rop - 1);
   const auto resultOn = [&](unsigned old) {
@@ -150,7 +150,9 @@ inline Rows visibleRows(const Bitmap& bitmap, int top, int bottom) {
 
 /// What a shape within left..right and top..bottom (both included) may have changed.
 inline Rect changed(const Bitmap& bitmap, int left, int top, int right, int bottom) {
-  return intersect(bitmap.bounds(), {left, top, right + 1, bottom + 1});
+  const Rect area{std::max(left, 0), std::max(top, 0), std::min(right + 1, bitmap.width()),
+                  std::min(bottom + 1, bitmap.height())};
+  return area.empty() ? Rect{} : area;
 }
 
 /// A pen that paints a line one pixel wide, with or without gaps.

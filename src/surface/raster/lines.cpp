@@ -16,6 +16,10 @@ Rect dot(Target target, const Pen& pen, int x, int y) {
 
 Rect line(Target target, const Pen& pen, int x1, int y1, int x2, int y2) {
   if (x1 == x2 && y1 == y2) return dot(target, pen, x1, y1);
+  // What a child draws with most of the time.
+  if (pen.style == PenStyle::Solid && pen.width == 1 && target.rop == kCopy) {
+    return copyThinLine(target.bitmap, pen.color | kOpaque, x1, y1, x2, y2);
+  }
   if (pen.style == PenStyle::Null) return {};
   const Ink ink = inkOf(target.rop, pen.color);
   if (ink.leaves()) return {};
