@@ -41,6 +41,12 @@ Rect thinFrame(const Target& target, const Pen& pen, const Corners& c) {
   return changed(target.bitmap, c.left, c.top, c.right, c.bottom);
 }
 
+/// True if frame and inside are painted alike, so that they are one area.
+bool isOneFill(const Target& target, const Pen& pen, const Brush& brush) {
+  return pen.style == PenStyle::Solid && brush.style == BrushStyle::Solid &&
+         pen.color == brush.color && inkOf(target.rop, pen.color).covers();
+}
+
 // The pixels within half the pen's width of the sides: round outer corners, square inner ones.
 Rect wideFrame(const Target& target, const Pen& pen, const Corners& outer, const Corners& hole,
                const Corners& c) {
@@ -80,6 +86,7 @@ Rect box(Target target, const Pen& pen, const Brush& brush, int x1, int y1, int 
     return fill(target, brush, {c.left, c.top, c.right - 1, c.bottom - 1});
   }
   if (isWide(pen)) return wideBox(target, pen, brush, c);
+  if (isOneFill(target, pen, brush)) return fill(target, brush, c);
   const Rect filled = fill(target, brush, {c.left + 1, c.top + 1, c.right - 1, c.bottom - 1});
   return unite(filled, thinFrame(target, pen, c));
 }

@@ -14,8 +14,7 @@ namespace {
 class Quarter {
  public:
   Quarter(double rx, double ry)
-      : a_(rx),
-        b_(ry),
+      : b_(ry),
         a2_(rx * rx),
         b2_(ry * ry),
         limit_((rx * rx) * (ry * ry)),
@@ -28,21 +27,28 @@ class Quarter {
   /// The last column of row j, both counted from the centre; -1 above the last row.
   int reach(int j) const {
     if (j > rows_) return -1;
-    int x = static_cast<int>(std::max(halfWidth(j) + 0.5, j == 0 ? 0.0 : halfWidth(j - 0.5)));
-    while (x > 0 && !inside(x, j)) --x;
-    while (inside(x + 1, j)) ++x;
-    return x;
+    const double x = std::max(halfWidth(j) + 0.5, halfWidth(std::abs(j - 0.5)));
+    const int whole = static_cast<int>(x);
+    const double part = x - whole;
+    // Roots are rounded, which matters only next to a whole number.
+    constexpr double kDoubt = 1e-6;
+    return part > kDoubt && part < 1 - kDoubt ? whole : exactReach(whole, j);
   }
 
  private:
   double halfWidth(double y) const { return y >= b_ ? 0 : ratio_ * std::sqrt(b2_ - y * y); }
 
+  int exactReach(int x, int j) const {
+    while (x > 0 && !inside(x, j)) --x;
+    while (inside(x + 1, j)) ++x;
+    return x;
+  }
   bool inside(double x, double y) const {
     return touches(std::max(x - 0.5, 0.0), y) || touches(x, std::max(y - 0.5, 0.0));
   }
   bool touches(double x, double y) const { return x * x * b2_ + y * y * a2_ <= limit_; }
 
-  double a_, b_, a2_, b2_, limit_, ratio_;
+  double b_, a2_, b2_, limit_, ratio_;
   int rows_;
 };
 
@@ -88,6 +94,26 @@ void solidOutline(const SpanPainter& painter, const Quarter& quarter, const Plac
   });
 }
 
+// The same where all of it is visible and the ink covers: the four quarters at once.
+void solidOutlineInside(Pixel color, const Quarter& quarter, const Place& place) {
+  const std::ptrdiff_t stride = place.bitmap.width();
+  Pixel* upper = place.bitmap.row(place.cy) + place.cx;
+  Pixel* lower = upper;
+  forRuns(quarter, place.distances, [&](int, Run run) {
+    if (run.first == run.last) {
+      upper[run.last] = upper[-run.last] = lower[run.last] = lower[-run.last] = color;
+    } else {
+      const int count = run.last - run.first + 1;
+      fillPixels(upper + run.first, count, color);
+      fillPixels(upper - run.last, count, color);
+      fillPixels(lower + run.first, count, color);
+      fillPixels(lower - run.last, count, color);
+    }
+    upper -= stride;
+    lower += stride;
+  });
+}
+
 // The dots run from the right end over the top, counterclockwise. Steps are counted along the
 // quarter: its mirror images count forth and back.
 void dottedOutline(const SpanPainter& painter, const Quarter& quarter, const Place& place) {
@@ -119,22 +145,32 @@ Rect flatEllipse(const Target& target, const Pen& pen, int cx, int cy, int rx, i
   return on ? unite(body, dot(target, pen, cx + rx, cy + ry)) : body;
 }
 
+/// True if the brush leaves nothing for the pen to do.
+bool brushDoesAll(const Pen& pen, const Brush& brush, Ink ink) {
+  return brush.style == BrushStyle::Solid && pen.color == brush.color && ink.covers();
+}
+
 Rect thinEllipse(const Target& target, const Pen& pen, const Brush& brush, int cx, int cy,
                  double rx, double ry) {
   const Quarter quarter(rx, ry);
-  const int reach = quarter.reach(0);
-  const Rect area =
-      changed(target.bitmap, cx - reach, cy - quarter.rows(), cx + reach, cy + quarter.rows());
+  const int reach = quarter.reach(0), rows = quarter.rows();
+  Bitmap& bitmap = target.bitmap;
+  const Rect area = changed(bitmap, cx - reach, cy - rows, cx + reach, cy + rows);
   if (area.empty()) return area;
-  const Place place{target.bitmap, cx, cy, visibleDistances(target.bitmap, cy, 0, quarter.rows())};
+  const Place place{bitmap, cx, cy, visibleDistances(bitmap, cy, 0, rows)};
   const SpanPainter inside(target, brush);
   if (!inside.idle()) fillInside(inside, quarter, place, pen.style != PenStyle::Null);
-  const SpanPainter outline(target, pen);
-  if (pen.style == PenStyle::Null || outline.idle()) return inside.idle() ? Rect{} : area;
+  const Ink ink = inkOf(target.rop, pen.color);
+  if (pen.style == PenStyle::Null || ink.leaves()) return inside.idle() ? Rect{} : area;
+  const bool whole = area == Rect{cx - reach, cy - rows, cx + reach + 1, cy + rows + 1};
   if (pen.style == PenStyle::Dotted) {
-    dottedOutline(outline, quarter, place);
+    dottedOutline(SpanPainter(bitmap, ink), quarter, place);
+  } else if (brushDoesAll(pen, brush, ink)) {
+    return area;
+  } else if (whole && ink.covers()) {
+    solidOutlineInside(ink.flip, quarter, place);
   } else {
-    solidOutline(outline, quarter, place);
+    solidOutline(SpanPainter(bitmap, ink), quarter, place);
   }
   return area;
 }
@@ -143,9 +179,10 @@ Rect thinEllipse(const Target& target, const Pen& pen, const Brush& brush, int c
 
 Rect ellipse(Target target, const Pen& pen, const Brush& brush, int cx, int cy, double rx,
              double ry) {
-  if (std::nearbyint(rx) == 0)
-    return flatEllipse(target, pen, cx, cy, 0, nearest(ry) * (std::nearbyint(ry) != 0));
-  if (std::nearbyint(ry) == 0) return flatEllipse(target, pen, cx, cy, nearest(rx), 0);
+  const bool noWidth = std::nearbyint(rx) == 0, noHeight = std::nearbyint(ry) == 0;
+  if (noWidth || noHeight) {
+    return flatEllipse(target, pen, cx, cy, noWidth ? 0 : nearest(rx), noHeight ? 0 : nearest(ry));
+  }
   if (!isWide(pen)) return thinEllipse(target, pen, brush, cx, cy, rx, ry);
   return wideEllipse(SpanPainter(target, pen), SpanPainter(target, brush), target.bitmap, pen.width,
                      cx, cy, rx, ry);

@@ -39,9 +39,9 @@ struct Part {
 /// first pixel, in units of 2^-40; the whole part of that counts the steps along the shorter axis.
 ///
 /// The true height is i d / n + 1/2 for the extents n >= d, both below 2^17; unless it is whole, it
-/// is at least 1 / 2n > 2^-18 away from a whole number. The slope is rounded up, in all by less than
-/// 2^-22. So a nudge of 2^-20 outweighs all rounding and moves nothing but the ties: those go to the
-/// smaller coordinate, whatever the direction.
+/// is at least 1 / 2n > 2^-18 away from a whole number. The slope is rounded up, in all by less
+/// than 2^-22. So a nudge of 2^-20 outweighs all rounding and moves nothing but the ties: those go
+/// to the smaller coordinate, whatever the direction.
 class Course {
  public:
   Course(int x1, int y1, int x2, int y2) {
