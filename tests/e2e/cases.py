@@ -9,9 +9,11 @@ import kraspret
 class Case(unittest.TestCase):
     """A test before a screen of its file's own. Each test has a folder."""
 
+    size = driver.SCREEN  # of the screen, in pixels
+
     @classmethod
     def setUpClass(cls):
-        cls.desktop = driver.Desktop()
+        cls.desktop = driver.Desktop(cls.size)
         cls.addClassCleanup(cls.desktop.close)
 
     def start(self, *arguments):

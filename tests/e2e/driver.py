@@ -1,7 +1,7 @@
 """A child made of software: before a screen of its own, with eyes that find controls by their accessible names."""
 import os
 
-from screen import PATIENCE, NotSeen, Screen, stop, until  # the tests take them from here, too
+from screen import PATIENCE, SCREEN, NotSeen, Screen, stop, until  # the tests take them from here, too
 
 LAUNCHERS = ("/usr/libexec/at-spi-bus-launcher", "/usr/lib/at-spi2-core/at-spi-bus-launcher")
 
@@ -70,8 +70,8 @@ class Control:
 class Desktop(Screen):
     """A screen with a screen reader's view of it. One for each test program: the accessibility layer knows one bus in a process."""
 
-    def __init__(self):
-        super().__init__()
+    def __init__(self, size=SCREEN):
+        super().__init__(size)
         self.env["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
         self._start_accessibility()
 

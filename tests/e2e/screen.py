@@ -54,7 +54,8 @@ def stop(process):
 class Screen:
     """The virtual screen and the folders of whoever sits before it; all of it goes with close()."""
 
-    def __init__(self):
+    def __init__(self, size=SCREEN):
+        self.size = size
         self.helpers, self.programs = [], []  # processes, in the order of their start
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="kraspret-e2e-"))
         atexit.register(self.close)
@@ -89,7 +90,7 @@ class Screen:
 
     def _start_screen(self):
         reading, writing = os.pipe()
-        self.helper(["Xvfb", "-displayfd", str(writing), "-screen", "0", f"{SCREEN[0]}x{SCREEN[1]}x24", "-fbdir", str(self.folder),
+        self.helper(["Xvfb", "-displayfd", str(writing), "-screen", "0", f"{self.size[0]}x{self.size[1]}x24", "-fbdir", str(self.folder),
                       "-nolisten", "tcp", "-noreset"], pass_fds=[writing])
         os.close(writing)
         with os.fdopen(reading, "rb") as stream:
@@ -145,6 +146,13 @@ class Screen:
             for step in range(1, steps + 1):
                 words += ["mousemove", round(x0 + (x1 - x0) * step / steps), round(y0 + (y1 - y0) * step / steps), "sleep", PAUSE]
         self._xdotool(*words, "mouseup", button, "sleep", PAUSE)
+
+    def press(self, x, y, button=1):
+        """Goes to a place and holds the button down there."""
+        self._xdotool("mousemove", x, y, "sleep", PAUSE, "mousedown", button, "sleep", PAUSE)
+
+    def release(self, button=1):
+        self._xdotool("mouseup", button, "sleep", PAUSE)
 
     def type(self, text):
         self._xdotool("type", "--delay", 20, "--", text)
