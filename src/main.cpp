@@ -6,7 +6,8 @@
 
 namespace {
 
-// The main menu hides behind every other screen; without this a child who closes that screen would be left with nothing.
+// The main menu hides behind every other screen; without this a child who closes that screen would
+// be left with nothing.
 void showMenuOrEnd() {
   if (surface::isLoaded<frmStart>())
     surface::the<frmStart>().Show();
