@@ -19,7 +19,11 @@ void frmTekenen2::PatroonVullen(const Mouse& at) {
   ExtFloodFill(picBlad.hDC(), toInt32(at.X), toInt32(at.Y), c, FloodFillSurface);
 }
 
+// While one button holds the pointer, a second one can go down beyond the sheet, where there is no
+// colour.
 void frmTekenen2::KleurKiezen(const Mouse& at) {
-  Shape1.FillColor = picBlad.Point({at.X, at.Y});
-  picBlad.ForeColor = picBlad.Point({at.X, at.Y});
+  const Color c = picBlad.Point({at.X, at.Y});
+  if (c == NoColor) return;
+  Shape1.FillColor = c;
+  picBlad.ForeColor = c;
 }
