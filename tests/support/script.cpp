@@ -146,8 +146,8 @@ void Stage::press(Control& control, int x, int y, int button) {
 void Stage::move(Control& control, int x, int y, int button) {
   const Target target = targetOf(control, x, y);
   if (!target.window) return;
-  // By the way of the platform's own moves: otherwise the toolkit would not know that the pointer is
-  // here, and would tell the move once more before the next press or release.
+  // By the way of the platform's own moves: otherwise the toolkit would not know that the pointer
+  // is here, and would tell the move once more before the next press or release.
   const QPointF at(target.at);
   qt_handleMouseEvent(target.window, at, target.window->mapToGlobal(at), toButton(button),
                       Qt::NoButton, QEvent::MouseMove, Qt::NoModifier, QTest::lastMouseTimestamp);
