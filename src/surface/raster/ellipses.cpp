@@ -100,6 +100,10 @@ void solidOutlineInside(Pixel color, const Quarter& quarter, const Place& place)
   Pixel* upper = place.bitmap.row(place.cy) + place.cx;
   Pixel* lower = upper;
   forRuns(quarter, place.distances, [&](int, Run run) {
+    for (Pixel* row : {upper, lower}) {
+      __builtin_prefetch(row + run.last, 1);
+      __builtin_prefetch(row - run.last, 1);
+    }
     if (run.first == run.last) {
       upper[run.last] = upper[-run.last] = lower[run.last] = lower[-run.last] = color;
     } else {

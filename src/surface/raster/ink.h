@@ -41,22 +41,34 @@ inline Ink inkOf(int rop, Pixel color) {
   return {(onClear ^ onSet) & kColorBits, (onClear & kColorBits) | kOpaque};
 }
 
-/// Sixteen bytes of one colour: the widest store that every x86-64 has.
+/// Four pixels of one colour: the widest store that every x86-64 has.
 struct Quad {
   Pixel pixels[4];
 };
 
-/// Paints `count` pixels (0 or more) in one colour.
+/// Stores `kQuads` quads side by side.
+template <int kQuads>
+inline void storeQuads(Pixel* p, const Quad& quad) {
+  for (int i = 0; i < kQuads; ++i) std::memcpy(p + 4 * i, &quad, sizeof quad);
+}
+
+/// Paints `count` pixels (0 or more) in one colour. Stores may overlap: painting some pixels twice
+/// is cheaper than a branch on the length of every span, which nothing foretells.
 inline void fillPixels(Pixel* p, int count, Pixel color) {
   const Quad quad{{color, color, color, color}};
-  if (count >= 4) {
-    // The last store overlaps the one before it, so no span ends in a loop of single pixels.
-    Pixel* const last = p + count - 4;
-    for (; p < last; p += 4) std::memcpy(p, &quad, sizeof quad);
-    std::memcpy(last, &quad, sizeof quad);
-    return;
+  if (count >= 16) {
+    Pixel* const last = p + count - 16;
+    for (; p < last; p += 16) storeQuads<4>(p, quad);
+    storeQuads<4>(last, quad);
+  } else if (count >= 4) {
+    const int last = count - 4;
+    storeQuads<1>(p, quad);
+    storeQuads<1>(p + std::min(4, last), quad);
+    storeQuads<1>(p + std::min(8, last), quad);
+    storeQuads<1>(p + last, quad);
+  } else if (count > 0) {
+    p[0] = p[count / 2] = p[count - 1] = color;
   }
-  for (Pixel* const end = p + count; p != end; ++p) *p = color;
 }
 
 /// Paints `count` pixels (0 or more).

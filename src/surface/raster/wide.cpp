@@ -12,6 +12,9 @@ namespace {
 
 using Wide = std::int64_t;
 
+// The pieces of a stroke are short: their rows are worked out at once.
+constexpr int kShortRows = 256;
+
 Wide floorDiv(Wide a, Wide b) { return a / b - (a % b < 0 ? 1 : 0); }
 
 /// The largest whole number whose square is not above n; n stays below 2^52.
@@ -20,6 +23,12 @@ Wide floorSqrt(Wide n) {
   while (root * root > n) --root;
   while ((root + 1) * (root + 1) <= n) ++root;
   return root;
+}
+
+/// std::floor is a call into the library on machines without SSE4.1.
+int floorOf(double value) {
+  const int whole = static_cast<int>(value);
+  return whole - (value < whole ? 1 : 0);
 }
 
 /// The right-hand outline of a capsule whose segment runs downwards (or level): the upper disc down
@@ -39,15 +48,17 @@ class RightOutline {
     const Wide length2 = dx_ * dx_ + dy_ * dy_;
     // A pixel lies left of the side if cross <= width / 2 * length; everything is doubled, since
     // the centre of an even pen has halves.
-    limit_ = floorSqrt(Wide{width} * width * length2);
+    const Wide limit = floorSqrt(Wide{width} * width * length2);
     // Where the side touches the discs: dx / length of the radius above the centres, in rows
     // counted from the disc's top. Both forms agree at the touching point, so rounding is free.
-    const double touch = 0.5 * width * static_cast<double>(dx_) / std::sqrt(double(length2));
+    const double touch =
+        0.5 * width * static_cast<double>(dx_) / std::sqrt(static_cast<double>(length2));
     const double offset = 0.5 * (width - 1) - touch;
-    sideFirst_ = top1_ + static_cast<int>(std::ceil(offset));
-    sideLast_ = top2_ + static_cast<int>(std::floor(offset));
-    sideLast_ = std::min(sideLast_, top2_ + width - 1);
-    y1_ = y1;
+    sideFirst_ = top1_ - floorOf(-offset);
+    sideLast_ = std::min(top2_ + floorOf(offset), top2_ + width - 1);
+    // (2 (x - x1) + even) dy - (2 (y - y1) + even) dx <= limit, solved for x.
+    const Wide even = even_;
+    rest_ = limit - (2 * Wide{y1} - even) * dx_ - even * dy_;
   }
 
   /// The last column of row y.
@@ -57,18 +68,30 @@ class RightOutline {
     return side(y);
   }
 
- private:
-  int side(int y) const {
-    // (2 (x - x1) + even) dy - (2 (y - y1) + even) dx <= limit, solved for x.
-    const Wide rest = limit_ + (2 * (Wide{y} - y1_) + even_) * dx_ - even_ * dy_;
-    return x1_ + static_cast<int>(floorDiv(rest, 2 * dy_));
+  /// The last columns of all rows, top to bottom, for a capsule of no more than kShortRows rows.
+  void all(int width, int* columns) const {
+    int y = top1_;
+    for (; y < sideFirst_; ++y) *columns++ = x1_ + reach_[y - top1_] - even_;
+    if (y <= sideLast_) {
+      // side() in units of 2^-32. Half a unit of the divided number keeps the quotient away from
+      // whole numbers, by far more than some hundred steps can be wrong.
+      const double scale = 4294967296.0 / static_cast<double>(2 * dy_);
+      const Wide step = static_cast<Wide>(static_cast<double>(2 * dx_) * scale);
+      Wide column = static_cast<Wide>((static_cast<double>(restOf(y)) + 0.5) * scale);
+      for (; y <= sideLast_; ++y, column += step) *columns++ = x1_ + static_cast<int>(column >> 32);
+    }
+    for (; y < top2_ + width; ++y) *columns++ = x2_ + reach_[y - top2_] - even_;
   }
+
+ private:
+  Wide restOf(int y) const { return rest_ + 2 * Wide{y} * dx_; }
+  int side(int y) const { return x1_ + static_cast<int>(floorDiv(restOf(y), 2 * dy_)); }
 
   int even_;
   const std::uint8_t* reach_;
-  int x1_, x2_, top1_, top2_, y1_ = 0;
+  int x1_, x2_, top1_, top2_;
   int sideFirst_ = 0, sideLast_ = 0;
-  Wide dx_, dy_, limit_ = 0;
+  Wide dx_, dy_, rest_ = 0;
 };
 
 Rect disc(const SpanPainter& painter, const Bitmap& bitmap, int width, int x, int y) {
@@ -97,6 +120,15 @@ Rect capsule(const SpanPainter& painter, Bitmap& bitmap, int width, int x1, int 
                             std::max(x1, x2) - width / 2 + width - 1, bottom);
   if (area.empty()) return area;
   const RightOutline outline(width, x1, y1, x2, y2);
+  if (bottom - top < kShortRows && area.top == top && area.bottom == bottom + 1) {
+    int columns[kShortRows];
+    outline.all(width, columns);
+    const int* mirrored = columns + (bottom - top);
+    for (int y = top, i = 0; y <= bottom; ++y, ++i) {
+      painter.span(y, turnX - *mirrored--, columns[i]);
+    }
+    return area;
+  }
   for (int y = area.top; y < area.bottom; ++y) {
     painter.span(y, turnX - outline.at(turnY - y), outline.at(y));
   }
