@@ -70,16 +70,13 @@ void Kunstlijn::chase(DrawingSurface& sheet, float X, float Y) {
     KunstY[0] = stepped(KunstY[0], ty, dY);
   }
   const Course x(KunstX, headX), y(KunstY, headY);
-  std::array<Color, Points> colors;
-  for (std::size_t k = 1; k < Points; ++k) colors[k] = RGB(KunstR[k], KunstG[k], KunstB[k]);
-  for (std::size_t round = 0; round < Rounds; ++round) {
-    PointF from{x.at(round, 0) * 15, y.at(round, 0) * 15};
-    for (std::size_t k = 1; k < Points; ++k) {
-      const PointF to{x.at(round, k) * 15, y.at(round, k) * 15};
-      sheet.Line(from, to, colors[k]);
-      from = to;
-    }
-  }
+  std::array<Color, Points - 1> colors;
+  for (std::size_t k = 1; k < Points; ++k) colors[k - 1] = RGB(KunstR[k], KunstG[k], KunstB[k]);
+  std::array<PointF, Rounds * Points> points;
+  for (std::size_t round = 0; round < Rounds; ++round)
+    for (std::size_t k = 0; k < Points; ++k)
+      points[round * Points + k] = {x.at(round, k) * 15, y.at(round, k) * 15};
+  sheet.Strokes(points, colors);
   for (std::size_t k = 1; k < Points; ++k) {
     KunstX[k] = x.at(Rounds - 1, k);
     KunstY[k] = y.at(Rounds - 1, k);

@@ -56,7 +56,7 @@ class Label : public Control {
   };
   Label(Container& container, const Design& design);
 
-  Prop<std::string, &Label::lookChanged> Caption;
+  Prop<std::string, &Label::valueChanged> Caption;
   Prop<Color, &Label::lookChanged> BackColor;
   Prop<Color, &Label::lookChanged> ForeColor;
   Prop<surface::Font, &Label::lookChanged> Font;

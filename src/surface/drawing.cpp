@@ -2,6 +2,7 @@
 #include "surface/drawing.h"
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
 
 #include "surface/dispatch.h"
@@ -28,6 +29,20 @@ inline int toCoordinate(double value) {
   if (std::abs(value) <= CoordinateLimit) [[likely]]
     return static_cast<int>((value + 0x1.8p52) - 0x1.8p52);
   return farCoordinate(value);
+}
+
+// The same for many points in pixels, side by side and without a branch: adding 1.5 * 2^23 leaves
+// the whole number in the low bits of the float. False if a coordinate is too far out for that.
+bool nearPixels(std::span<const PointF> points, std::span<raster::Spot> spots) {
+  constexpr auto Furthest = std::bit_cast<std::int32_t>(static_cast<float>(CoordinateLimit));
+  std::int32_t far = 0;
+  for (std::size_t i = 0; i < points.size(); ++i) {
+    far |= Furthest - (std::bit_cast<std::int32_t>(points[i].X) & 0x7FFFFFFF);
+    far |= Furthest - (std::bit_cast<std::int32_t>(points[i].Y) & 0x7FFFFFFF);
+    spots[i].x = static_cast<std::int16_t>(std::bit_cast<std::int32_t>(points[i].X + 0x1.8p23f));
+    spots[i].y = static_cast<std::int16_t>(std::bit_cast<std::int32_t>(points[i].Y + 0x1.8p23f));
+  }
+  return far >= 0;
 }
 
 double twipsPerUnit(ScaleUnit unit) {
@@ -146,6 +161,28 @@ void DrawingSurface::Line(PointF from, PointF to, std::optional<Color> color, Bo
       damage(raster::filledBox(target(), pen(ink), a.x, a.y, b.x, b.y));
       break;
   }
+}
+
+void DrawingSurface::Strokes(std::span<const PointF> points, std::span<const Color> colors) {
+  if (points.empty() || colors.empty()) return;
+  std::vector<raster::Pixel> pixels(colors.size());
+  std::transform(colors.begin(), colors.end(), pixels.begin(), toPixel);
+  const auto lines = static_cast<int>(colors.size());
+  const auto count = static_cast<int>(points.size() / (colors.size() + 1));
+  damage(
+      raster::strokes(target(), pen(Black), spotsOf(points).data(), count, pixels.data(), lines));
+  CurrentX = points.back().X;
+  CurrentY = points.back().Y;
+}
+
+std::vector<raster::Spot> DrawingSurface::spotsOf(std::span<const PointF> points) const {
+  std::vector<raster::Spot> spots(points.size());
+  if (scaleMode_ == ScalePixels && nearPixels(points, spots)) return spots;
+  std::transform(points.begin(), points.end(), spots.begin(), [this](PointF point) {
+    const Pixels at = pixelsOf(point);
+    return raster::Spot{static_cast<std::int16_t>(at.x), static_cast<std::int16_t>(at.y)};
+  });
+  return spots;
 }
 
 void DrawingSurface::Circle(PointF centre, float radius, std::optional<Color> color, float aspect) {

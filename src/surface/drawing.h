@@ -4,7 +4,9 @@
 
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
+#include <vector>
 
 #include "surface/color.h"
 #include "surface/errors.h"
@@ -98,6 +100,10 @@ class DrawingSurface {
 
   /// Without a colour the ForeColor; a colour that is none (-1) paints nothing.
   void Line(PointF from, PointF to, std::optional<Color> color = {}, BoxFlag flag = BoxFlag::None);
+  /// Strokes of lines from point to point, all strokes alike: line i of each has colour i, and each
+  /// has one more point than colours. The same as Line for one after the other, but with no cost
+  /// for each.
+  void Strokes(std::span<const PointF> points, std::span<const Color> colors);
   /// Aspect is height over width; the radius is the longer half axis.
   void Circle(PointF centre, float radius, std::optional<Color> color = {}, float aspect = 1);
   void PSet(PointF at, std::optional<Color> color = {});
@@ -147,6 +153,7 @@ class DrawingSurface {
   void erase();
   std::shared_ptr<const raster::Bitmap> composed() const;
   Pixels pixelsOf(PointF at) const;
+  std::vector<raster::Spot> spotsOf(std::span<const PointF> points) const;
   double pixelsPerUnitX() const;
   double pixelsPerUnitY() const;
   raster::Pen pen(Color color) const;

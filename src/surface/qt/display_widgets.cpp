@@ -30,10 +30,16 @@ LabelWidget::LabelWidget(Label& owner, QWidget& parent) : QLabel(&parent), contr
 void LabelWidget::sync(Aspect aspect) {
   if (aspect == Aspect::Look) {
     setFont(toQFont(control->Font));
-    setText(QString::fromStdString(control->Caption));
     update();
   }
-  applyCommon(*this, *control, aspect, spoken(control->Caption));
+  if (aspect == Aspect::Value) {
+    // The toolkit's own text is only what a screen reader says: the caption is painted with its
+    // runs of blanks.
+    setText(spoken(control->Caption));
+    update();
+  }
+  applyCommon(*this, *control, aspect);
+  if (aspect == Aspect::Look) setAccessibleName(QString::fromStdString(control->AccessibleName));
 }
 
 void LabelWidget::paintEvent(QPaintEvent*) {
@@ -42,7 +48,8 @@ void LabelWidget::paintEvent(QPaintEvent*) {
   painter.fillRect(rect(), toQColor(control->BackColor));
   painter.setFont(font());
   painter.setPen(toQColor(control->ForeColor));
-  drawCaption(painter, rect().adjusted(Inset, 0, -Inset, 0), text(), control->Centred);
+  drawCaption(painter, rect().adjusted(Inset, 0, -Inset, 0),
+              QString::fromStdString(control->Caption), control->Centred);
 }
 
 // A press that is not taken would go on to the form beneath.

@@ -43,16 +43,16 @@ struct Target {
 
 /// A line. Width 1: the last pixel is not painted. From a point to itself: a dot of pen width.
 Rect line(Target target, const Pen& pen, int x1, int y1, int x2, int y2);
-/// One position of a bitmap, pixels.
+/// One position, pixels.
 struct Spot {
-  int x, y;
-  friend bool operator==(const Spot&, const Spot&) = default;
+  std::int16_t x, y;
 };
 
-/// `lines` lines, from each spot to the next (so one more spot than lines), each in its own colour
-/// in place of the pen's: what `line` would paint for one after the other, without its cost for
-/// each.
-Rect chain(Target target, const Pen& pen, const Spot* spots, const Pixel* colors, int lines);
+/// `count` strokes of `lines` lines each, from spot to spot (so lines + 1 spots a stroke, stroke
+/// after stroke); line i of every stroke has colour i in place of the pen's. What `line` would
+/// paint for one after the other, without its cost for each.
+Rect strokes(Target target, const Pen& pen, const Spot* spots, int count, const Pixel* colors,
+             int lines);
 /// One dot of pen width.
 Rect dot(Target target, const Pen& pen, int x, int y);
 /// A rectangle, both corners included. From a point to itself: a dot.
