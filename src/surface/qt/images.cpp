@@ -13,6 +13,7 @@
 #include <cstring>
 
 #include "surface/errors.h"
+#include "surface/qt/picture_bytes.h"
 #include "surface/qt/text_layout.h"
 
 namespace surface::qt {
@@ -20,6 +21,12 @@ namespace {
 
 constexpr int LargestMegabytes = 64;
 constexpr int LargestSide = 32767;
+// No picture within the limits takes more, and a file of any length is read at once.
+constexpr qint64 LargestFile = qint64{256} << 20;
+
+[[noreturn]] void cannotWrite() {
+  throw RuntimeError(ErrorKind::CannotWrite, "File cannot be written");
+}
 
 [[noreturn]] void badFile() { throw RuntimeError(ErrorKind::BadFile, "Invalid picture"); }
 
@@ -34,7 +41,7 @@ QByteArray encoded(const Picture& picture) {
   QBuffer buffer(&bytes);
   buffer.open(QIODevice::WriteOnly);
   if (!wrapped(*picture.bitmap()).convertToFormat(QImage::Format_RGB888).save(&buffer, "BMP"))
-    throw RuntimeError(ErrorKind::CannotWrite, "Picture cannot be written");
+    cannotWrite();
   return bytes;
 }
 
@@ -64,7 +71,7 @@ void writeInPlace(const QString& name, const QByteArray& bytes) {
   } else if (file.isOpen()) {
     file.remove();
   }
-  throw RuntimeError(ErrorKind::CannotWrite, "File cannot be written");
+  cannotWrite();
 }
 
 }  // namespace
@@ -99,15 +106,21 @@ Picture loadPicture(const std::string& path) {
   // A pipe would wait for ever, a device has no end.
   if (!info.isFile()) badFile();
   QFile file(name);
-  if (!file.open(QIODevice::ReadOnly)) badFile();
+  if (info.size() > LargestFile || !file.open(QIODevice::ReadOnly)) badFile();
+  const QByteArray bytes = file.readAll();
+  QBuffer buffer;
+  buffer.setData(bytes);
+  buffer.open(QIODevice::ReadOnly);
   QImageReader::setAllocationLimit(LargestMegabytes);
-  QImageReader reader(&file);
+  QImageReader reader(&buffer);
   reader.setDecideFormatFromContent(true);
   reader.setAutoTransform(true);
   static const QByteArrayList known = {"bmp", "gif", "jpg", "jpeg", "ico", "cur"};
-  if (!known.contains(reader.format()) || !sizeAllowed(reader.size())) badFile();
-  const QImage image = reader.read();
+  const QByteArray format = reader.format();
+  if (!known.contains(format) || !sizeAllowed(reader.size()) || !isWhole(format, bytes)) badFile();
+  QImage image = reader.read();
   if (image.isNull() || !sizeAllowed(image.size())) badFile();
+  widenShades(image, format, bytes);
   return toPicture(image);
 }
 
@@ -115,11 +128,13 @@ void savePicture(const Picture& picture, const std::string& path) {
   if (picture.empty()) throw RuntimeError(ErrorKind::BadPropertyValue, "Invalid picture");
   const QByteArray bytes = encoded(picture);
   const QString name = QString::fromStdString(path);
+  // A pipe would wait for ever, and a device is no place for a new file.
+  if (const QFileInfo info(name); info.exists() && !info.isFile()) cannotWrite();
   QSaveFile beside(name);
   if (beside.open(QIODevice::WriteOnly)) {
     if (!writeAll(beside, bytes)) beside.cancelWriting();
     if (beside.commit()) return;
-    throw RuntimeError(ErrorKind::CannotWrite, "File cannot be written");
+    cannotWrite();
   }
   // Some network folders refuse a second file beside the first.
   writeInPlace(name, bytes);
