@@ -1,0 +1,225 @@
+// Reading pictures: every format that is taken, and everything that is refused.
+#include <sys/stat.h>
+
+#include <QBuffer>
+#include <QImage>
+#include <QImageWriter>
+#include <chrono>
+#include <cmath>
+
+#include "files/disk.h"
+#include "files/picture_files.h"
+#include "support/errors.h"
+#include "support/script.h"
+
+using namespace surface;
+using namespace picture_files;
+
+namespace {
+
+constexpr Rgb Red = 0xFF0000, Green = 0x00FF00, Blue = 0x0000FF, Black24 = 0, White24 = 0xFFFFFF;
+constexpr int Wide = 13, High = 7;  // odd, so that rows are padded
+
+// A picture without any symmetry: an error of order, direction or stride shows.
+Rgb colorful(int x, int y) {
+  return x == 0 && y == 0 ? Red : x > y ? Green : x == 3 ? Blue : (x + y) % 2 ? White24 : Black24;
+}
+const std::vector<Rgb> Palette = {Red, Green, Blue, White24, Black24};
+
+Rgb twoTone(int x, int y) { return x * 3 > y * 5 ? Red : Green; }
+
+Bytes encoded(const char* format, const QImage& image) {
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::WriteOnly);
+  QImageWriter writer(&buffer, format);
+  writer.setQuality(100);
+  EXPECT_TRUE(writer.write(image)) << format;
+  return bytes.toStdString();
+}
+
+QImage image(int width, int height, const Pixels& pixels) {
+  QImage made(width, height, QImage::Format_RGB32);
+  for (int y = 0; y < height; ++y)
+    for (int x = 0; x < width; ++x) made.setPixel(x, y, 0xFF000000 | pixels(x, y));
+  return made;
+}
+
+}  // namespace
+
+class Loading : public script::Stage {
+ protected:
+  Picture load(const Bytes& bytes, const std::string& name = "plaat") {
+    const std::string path = folder() + "/" + name;
+    write(path, bytes);
+    return LoadPicture(path);
+  }
+  static void expectPixels(const Picture& picture, int width, int height, const Pixels& pixels) {
+    ASSERT_EQ(picture.width(), width);
+    ASSERT_EQ(picture.height(), height);
+    for (int y = 0; y < height; ++y)
+      for (int x = 0; x < width; ++x)
+        ASSERT_EQ(picture.bitmap()->at(x, y), 0xFF000000 | pixels(x, y)) << x << ',' << y;
+  }
+  void expectRefused(const Bytes& bytes) { EXPECT_ERROR(BadFile, load(bytes)); }
+};
+
+TEST_F(Loading, ABitmapOfOneBitAPixel) {
+  expectPixels(load(paletteBmp(Wide, High, 1, {Red, Green}, twoTone)), Wide, High, twoTone);
+}
+
+TEST_F(Loading, ABitmapOfFourBitsAPixel) {
+  expectPixels(load(paletteBmp(Wide, High, 4, Palette, colorful)), Wide, High, colorful);
+}
+
+TEST_F(Loading, ABitmapOfEightBitsAPixel) {
+  expectPixels(load(paletteBmp(Wide, High, 8, Palette, colorful)), Wide, High, colorful);
+}
+
+TEST_F(Loading, ABitmapOfSixteenBitsAPixel) {
+  expectPixels(load(trueColorBmp(Wide, High, 16, colorful)), Wide, High, colorful);
+}
+
+TEST_F(Loading, ABitmapOfTwentyFourBitsAPixel) {
+  expectPixels(load(trueColorBmp(Wide, High, 24, colorful)), Wide, High, colorful);
+}
+
+// The fourth byte is no opacity: 0 there must not make the picture vanish.
+TEST_F(Loading, ABitmapOfThirtyTwoBitsAPixel) {
+  expectPixels(load(trueColorBmp(Wide, High, 32, colorful)), Wide, High, colorful);
+}
+
+TEST_F(Loading, AGif) { expectPixels(load(gif(40, 30, Palette, colorful)), 40, 30, colorful); }
+
+TEST_F(Loading, WhatIsTransparentInAGifIsWhite) {
+  const auto whiteForGreen = [](int x, int y) {
+    const Rgb c = colorful(x, y);
+    return c == Green ? White24 : c;
+  };
+  expectPixels(load(gif(40, 30, Palette, colorful, 1)), 40, 30, whiteForGreen);
+}
+
+TEST_F(Loading, AJpegAsNearAsItsCompressionAllows) {
+  const auto soft = [](int x, int y) {
+    return static_cast<Rgb>(x * 4) << 16 | static_cast<Rgb>(y * 4) << 8 | 0x80;
+  };
+  const Picture picture = load(encoded("jpg", image(48, 32, soft)));
+  ASSERT_EQ(picture.width(), 48);
+  ASSERT_EQ(picture.height(), 32);
+  for (int y = 0; y < 32; ++y)
+    for (int x = 0; x < 48; ++x)
+      for (int shift : {0, 8, 16}) {
+        const int got = static_cast<int>(picture.bitmap()->at(x, y) >> shift & 0xFF);
+        ASSERT_NEAR(got, static_cast<int>(soft(x, y) >> shift & 0xFF), 6) << x << ',' << y;
+      }
+}
+
+TEST_F(Loading, IconsAndCursorsWithWhiteWhereTheyAreTransparent) {
+  const auto hole = [](int x, int y) { return x < 4 && y > 8; };
+  const auto seen = [&](int x, int y) { return hole(x, y) ? White24 : colorful(x, y); };
+  for (const int kind : {1, 2})
+    expectPixels(load(icon(kind, 16, 12, Palette, colorful, hole)), 16, 12, seen);
+}
+
+TEST_F(Loading, APictureIsToldByItsContentNotByItsName) {
+  const Bytes bytes = gif(Wide, High, Palette, colorful);
+  for (const char* name : {"plaat.bmp", "plaat.jpg", "plaat.txt", "plaat"})
+    expectPixels(load(bytes, name), Wide, High, colorful);
+}
+
+TEST_F(Loading, ANameMayHoldBlanksAndAccents) {
+  expectPixels(load(trueColorBmp(3, 2, 24, colorful), "een paard étend.bmp"), 3, 2, colorful);
+}
+
+TEST_F(Loading, NoNameIsAnEmptyPicture) { EXPECT_TRUE(LoadPicture().empty()); }
+
+TEST_F(Loading, AFileThatIsNotThereIsNotFound) {
+  EXPECT_ERROR(FileNotFound, LoadPicture(folder() + "/niets.bmp"));
+  EXPECT_ERROR(FileNotFound, LoadPicture(""));
+}
+
+TEST_F(Loading, AnEmptyFileIsRefused) { expectRefused(""); }
+
+TEST_F(Loading, ATextIsRefused) { expectRefused("Lieve oma, dit is geen tekening.\n"); }
+
+TEST_F(Loading, KindsThatAreNotOnTheListAreRefused) {
+  expectRefused(encoded("png", image(8, 8, colorful)));
+  expectRefused(encoded("ppm", image(8, 8, colorful)));
+  expectRefused("<svg xmlns='http://www.w3.org/2000/svg' width='8' height='8'/>");
+  expectRefused("/* XPM */ static char*x[]={\"1 1 1 1\",\"a c #ff0000\",\"a\"};");
+}
+
+TEST_F(Loading, AMetafileIsRefused) {
+  Bytes bytes("\xD7\xCD\xC6\x9A\0\0", 6);
+  bytes.resize(512);
+  expectRefused(bytes);
+}
+
+TEST_F(Loading, AFolderIsRefused) { EXPECT_ERROR(BadFile, LoadPicture(folder())); }
+
+TEST_F(Loading, APipeIsRefusedWithoutWaitingForItsWriter) {
+  const std::string path = folder() + "/pijp.bmp";
+  ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
+  EXPECT_ERROR(BadFile, LoadPicture(path));
+}
+
+TEST_F(Loading, ADeviceIsRefused) { EXPECT_ERROR(BadFile, LoadPicture("/dev/zero")); }
+
+TEST_F(Loading, AFileThatMayNotBeReadIsRefused) {
+  const std::string path = folder() + "/geheim.bmp";
+  write(path, trueColorBmp(3, 2, 24, colorful));
+  std::filesystem::permissions(path, std::filesystem::perms::none);
+  const disk::OrdinaryUser user;
+  EXPECT_ERROR(BadFile, LoadPicture(path));
+}
+
+TEST_F(Loading, AFileCutOffIsRefused) {
+  const auto none = [](int, int) { return false; };
+  const Bytes whole[] = {trueColorBmp(40, 30, 24, colorful),
+                         paletteBmp(40, 30, 8, Palette, colorful), gif(40, 30, Palette, colorful),
+                         icon(1, 16, 12, Palette, colorful, none),
+                         encoded("jpg", image(40, 30, colorful))};
+  for (const Bytes& bytes : whole) {
+    EXPECT_NO_THROW(load(bytes));
+    for (const std::size_t part : {std::size_t{3}, std::size_t{60}, bytes.size() / 10,
+                                   bytes.size() / 2, bytes.size() * 9 / 10, bytes.size() - 2})
+      expectRefused(bytes.substr(0, part));
+  }
+}
+
+TEST_F(Loading, AHugeSizeInAHeaderIsRefusedAtOnceAndCostsNoMemory) {
+  Bytes jpeg = encoded("jpg", image(40, 30, colorful));
+  // The frame header: marker, length, precision, height, width.
+  const std::size_t frame = jpeg.find("\xFF\xC0");
+  ASSERT_NE(frame, Bytes::npos);
+  for (const std::size_t byte : {5u, 6u, 7u, 8u}) jpeg[frame + byte] = '\xFF';
+  Bytes wideGif = gif(40, 30, Palette, colorful);
+  for (const std::size_t byte : {6u, 7u, 8u, 9u}) wideGif[byte] = '\xFF';
+
+  rusage before{}, after{};
+  getrusage(RUSAGE_SELF, &before);
+  const auto start = std::chrono::steady_clock::now();
+  expectRefused(bmpHeader(100'000, 100'000, 24, 0, 0) + Bytes(1000, 'x'));
+  expectRefused(bmpHeader(100'000, 100'000, 1, 2, 0) + Bytes(1000, 'x'));
+  expectRefused(bmpHeader(100'000, -100'000, 32, 0, 0) + Bytes(1000, 'x'));
+  expectRefused(bmpHeader(0, 100, 24, 0, 0) + Bytes(1000, 'x'));
+  expectRefused(bmpHeader(-5, 100, 24, 0, 0) + Bytes(1000, 'x'));
+  expectRefused(jpeg);
+  expectRefused(wideGif);
+  getrusage(RUSAGE_SELF, &after);
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(2));
+  EXPECT_LT(after.ru_maxrss - before.ru_maxrss, 32 * 1024) << "kilobytes";
+}
+
+TEST_F(Loading, TheLargestPicturesAreStillTakenAndNoLargerOnes) {
+  const auto plain = [](int, int) { return Green; };
+  const auto bitmap = [&](int width, int height) {
+    return paletteBmp(width, height, 1, {Green, Red}, plain);
+  };
+  // 64 MiB at four bytes a pixel.
+  EXPECT_EQ(load(bitmap(4096, 4096)).width(), 4096);
+  expectRefused(bitmap(4097, 4096));
+  EXPECT_EQ(load(bitmap(32767, 1)).width(), 32767);
+  expectRefused(bitmap(32768, 1));
+  expectRefused(bitmap(1, 32768));
+}
