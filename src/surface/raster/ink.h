@@ -60,12 +60,12 @@ inline void fillPixels(Pixel* p, int count, Pixel color) {
     Pixel* const last = p + count - 16;
     for (; p < last; p += 16) storeQuads<4>(p, quad);
     storeQuads<4>(last, quad);
+  } else if (count >= 8) {
+    storeQuads<2>(p, quad);
+    storeQuads<2>(p + count - 8, quad);
   } else if (count >= 4) {
-    const int last = count - 4;
     storeQuads<1>(p, quad);
-    storeQuads<1>(p + std::min(4, last), quad);
-    storeQuads<1>(p + std::min(8, last), quad);
-    storeQuads<1>(p + last, quad);
+    storeQuads<1>(p + count - 4, quad);
   } else if (count > 0) {
     p[0] = p[count / 2] = p[count - 1] = color;
   }
@@ -115,6 +115,9 @@ class SpanPainter {
       : SpanPainter(target.bitmap, inkOf(target.rop, brush.color), brush.style) {}
 
   bool idle() const { return style_ == BrushStyle::Null; }
+  /// True if spans are plain fills in the colour ink().flip.
+  bool fillsPlainly() const { return style_ == BrushStyle::Solid && ink_.covers(); }
+  Ink ink() const { return ink_; }
 
   /// Paints the columns left..right of row y, both included; nothing if right < left.
   void span(int y, int left, int right) const {

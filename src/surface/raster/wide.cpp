@@ -17,9 +17,9 @@ constexpr int kShortRows = 256;
 
 Wide floorDiv(Wide a, Wide b) { return a / b - (a % b < 0 ? 1 : 0); }
 
-/// The largest whole number whose square is not above n; n stays below 2^52.
-Wide floorSqrt(Wide n) {
-  Wide root = static_cast<Wide>(std::sqrt(static_cast<double>(n)));
+/// The largest whole number whose square is not above n, from a guess.
+Wide floorSqrt(Wide n, double guess) {
+  Wide root = static_cast<Wide>(guess);
   while (root * root > n) --root;
   while ((root + 1) * (root + 1) <= n) ++root;
   return root;
@@ -46,13 +46,13 @@ class RightOutline {
         dx_(Wide{x2} - x1),
         dy_(Wide{y2} - y1) {
     const Wide length2 = dx_ * dx_ + dy_ * dy_;
+    const double length = std::sqrt(static_cast<double>(length2));
     // A pixel lies left of the side if cross <= width / 2 * length; everything is doubled, since
     // the centre of an even pen has halves.
-    const Wide limit = floorSqrt(Wide{width} * width * length2);
+    const Wide limit = floorSqrt(Wide{width} * width * length2, width * length);
     // Where the side touches the discs: dx / length of the radius above the centres, in rows
     // counted from the disc's top. Both forms agree at the touching point, so rounding is free.
-    const double touch =
-        0.5 * width * static_cast<double>(dx_) / std::sqrt(static_cast<double>(length2));
+    const double touch = 0.5 * width * static_cast<double>(dx_) / length;
     const double offset = 0.5 * (width - 1) - touch;
     sideFirst_ = top1_ - floorOf(-offset);
     sideLast_ = std::min(top2_ + floorOf(offset), top2_ + width - 1);
@@ -94,6 +94,25 @@ class RightOutline {
   Wide dx_, dy_, rest_ = 0;
 };
 
+/// Paints rows that reach from the mirror image of `columns`, turned by half a circle, to
+/// `columns`.
+void paintTurned(const SpanPainter& painter, Bitmap& bitmap, const Rect& area, int turnX,
+                 const int* columns) {
+  const int rows = area.height();
+  if (!painter.fillsPlainly()) {
+    for (int i = 0; i < rows; ++i) {
+      painter.span(area.top + i, turnX - columns[rows - 1 - i], columns[i]);
+    }
+    return;
+  }
+  const Pixel color = painter.ink().flip;
+  Pixel* row = bitmap.row(area.top);
+  for (int i = 0; i < rows; ++i, row += bitmap.width()) {
+    const int left = turnX - columns[rows - 1 - i];
+    fillPixels(row + left, columns[i] - left + 1, color);
+  }
+}
+
 Rect disc(const SpanPainter& painter, const Bitmap& bitmap, int width, int x, int y) {
   const int top = y - width / 2, even = isEven(width);
   const std::uint8_t* reach = discs.of(width);
@@ -116,17 +135,15 @@ Rect capsule(const SpanPainter& painter, Bitmap& bitmap, int width, int x1, int 
   }
   const int top = y1 - width / 2, bottom = y2 - width / 2 + width - 1;
   const int turnX = x1 + x2 - isEven(width), turnY = y1 + y2 - isEven(width);
-  const Rect area = changed(bitmap, std::min(x1, x2) - width / 2, top,
-                            std::max(x1, x2) - width / 2 + width - 1, bottom);
+  const Rect whole{std::min(x1, x2) - width / 2, top, std::max(x1, x2) - width / 2 + width,
+                   bottom + 1};
+  const Rect area = intersect(bitmap.bounds(), whole);
   if (area.empty()) return area;
   const RightOutline outline(width, x1, y1, x2, y2);
-  if (bottom - top < kShortRows && area.top == top && area.bottom == bottom + 1) {
+  if (bottom - top < kShortRows && area == whole) {
     int columns[kShortRows];
     outline.all(width, columns);
-    const int* mirrored = columns + (bottom - top);
-    for (int y = top, i = 0; y <= bottom; ++y, ++i) {
-      painter.span(y, turnX - *mirrored--, columns[i]);
-    }
+    paintTurned(painter, bitmap, area, turnX, columns);
     return area;
   }
   for (int y = area.top; y < area.bottom; ++y) {
