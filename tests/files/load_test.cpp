@@ -84,6 +84,31 @@ TEST_F(Loading, ABitmapOfTwentyFourBitsAPixel) {
   expectPixels(load(trueColorBmp(Wide, High, 24, colorful)), Wide, High, colorful);
 }
 
+TEST_F(Loading, ABitmapWhoseRowsRunDownwards) {
+  Bytes height;
+  put32(height, static_cast<std::uint32_t>(-High));
+  const auto turned = [](int x, int y) { return colorful(x, High - 1 - y); };
+  expectPixels(load(trueColorBmp(Wide, High, 24, turned).replace(22, 4, height)), Wide, High,
+               colorful);
+}
+
+TEST_F(Loading, ABitmapWithTheOldestHeader) {
+  const Bytes bytes = oldestBmp(Wide, High, colorful);
+  expectPixels(load(bytes), Wide, High, colorful);
+  expectRefused(bytes.substr(0, bytes.size() / 2));
+}
+
+TEST_F(Loading, ABitmapWithSixBitsOfGreen) {
+  // White, black, pure green, and the darkest green but one.
+  Bytes bytes = bmpHeader(2, 2, 16, 3, 8);
+  bytes[30] = 3;
+  bytes[46] = 0;
+  for (const std::uint32_t mask : {0xF800u, 0x07E0u, 0x001Fu}) put32(bytes, mask);
+  for (const unsigned pixel : {0x07E0u, 0x0040u, 0xFFFFu, 0x0000u}) put16(bytes, pixel);
+  const Rgb expected[] = {White24, Black24, Green, 0x000800};
+  expectPixels(load(bytes), 2, 2, [&](int x, int y) { return expected[y * 2 + x]; });
+}
+
 // The fourth byte is no opacity: 0 there must not make the picture vanish.
 TEST_F(Loading, ABitmapOfThirtyTwoBitsAPixel) {
   expectPixels(load(trueColorBmp(Wide, High, 32, colorful)), Wide, High, colorful);

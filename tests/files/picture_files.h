@@ -103,6 +103,21 @@ inline Bytes trueColorBmp(int width, int height, int bits, const Pixels& pixels)
   return bytes;
 }
 
+/// A Windows bitmap of 24 bits with the oldest, shortest kind of second header.
+inline Bytes oldestBmp(int width, int height, const Pixels& pixels) {
+  const Bytes body = trueColorBmp(width, height, 24, pixels).substr(54);
+  Bytes bytes = "BM";
+  put32(bytes, static_cast<std::uint32_t>(26 + body.size()));
+  put32(bytes, 0);
+  put32(bytes, 26);
+  put32(bytes, 12);
+  put16(bytes, static_cast<unsigned>(width));
+  put16(bytes, static_cast<unsigned>(height));
+  put16(bytes, 1);
+  put16(bytes, 24);
+  return bytes + body;
+}
+
 /// A GIF without compression: 128 colours, so that a code is a byte, and a clear code often enough
 /// that codes never grow. `transparent` is a palette index, or -1.
 inline Bytes gif(int width, int height, const std::vector<Rgb>& palette, const Pixels& pixels,

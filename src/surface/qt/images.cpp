@@ -10,6 +10,7 @@
 #include <QPainter>
 #include <QSaveFile>
 #include <algorithm>
+#include <cstdlib>
 #include <cstring>
 
 #include "surface/errors.h"
@@ -31,9 +32,11 @@ constexpr qint64 LargestFile = qint64{256} << 20;
 [[noreturn]] void badFile() { throw RuntimeError(ErrorKind::BadFile, "Invalid picture"); }
 
 bool sizeAllowed(QSize size) {
-  return size.width() > 0 && size.height() > 0 && size.width() <= LargestSide &&
-         size.height() <= LargestSide &&
-         static_cast<qint64>(size.width()) * size.height() * 4 <= qint64{LargestMegabytes} << 20;
+  const qint64 width = size.width();
+  // A bitmap whose rows run downwards has a negative height.
+  const qint64 height = std::abs(qint64{size.height()});
+  return width > 0 && height > 0 && width <= LargestSide && height <= LargestSide &&
+         width * height * 4 <= qint64{LargestMegabytes} << 20;
 }
 
 QByteArray encoded(const Picture& picture) {

@@ -42,22 +42,30 @@ Integer littleEndian(const QByteArray& file, qint64 at) {
   return qFromLittleEndian<Integer>(file.constData() + at);
 }
 
-// The fields of a bitmap that has the usual second header, or a longer one.
+// What a bitmap's headers say. The oldest kind of second header is 12 bytes long and knows no
+// compression.
 struct BmpFields {
-  explicit BmpFields(const QByteArray& file)
-      : start(littleEndian<quint32>(file, 10)),
-        width(littleEndian<qint32>(file, 18)),
-        height(littleEndian<qint32>(file, 22)),
-        bits(littleEndian<quint16>(file, 28)),
-        compression(littleEndian<quint32>(file, 30)),
-        pixelBytes(littleEndian<quint32>(file, 34)) {}
+  explicit BmpFields(const QByteArray& file) : start(littleEndian<quint32>(file, 10)) {
+    if (littleEndian<quint32>(file, 14) == 12) {
+      width = littleEndian<quint16>(file, 18);
+      height = littleEndian<quint16>(file, 20);
+      bits = littleEndian<quint16>(file, 24);
+      return;
+    }
+    width = littleEndian<qint32>(file, 18);
+    height = littleEndian<qint32>(file, 22);
+    bits = littleEndian<quint16>(file, 28);
+    compression = littleEndian<quint32>(file, 30);
+    pixelBytes = littleEndian<quint32>(file, 34);
+  }
 
   bool runLengths() const { return compression == 1 || compression == 2; }
+  bool ownMasks() const { return compression == 3; }
 
-  qint64 start, width, height;
-  int bits;
-  quint32 compression;
-  qint64 pixelBytes;
+  qint64 start, width = 0, height = 0;
+  int bits = 0;
+  quint32 compression = 0;
+  qint64 pixelBytes = 0;
 };
 
 bool isWholeBmp(const QByteArray& file) {
@@ -130,8 +138,7 @@ bool isWhole(const QByteArray& format, const QByteArray& file) {
 void widenShades(QImage& image, const QByteArray& format, const QByteArray& file) {
   const BmpFields bmp(file);
   if (format != "bmp" || bmp.bits != 16) return;
-  const bool ownMasks = bmp.compression == 3;
-  const int greenBits = ownMasks ? std::popcount(littleEndian<quint32>(file, 58)) : 5;
+  const int greenBits = bmp.ownMasks() ? std::popcount(littleEndian<quint32>(file, 58)) : 5;
   image = image.convertToFormat(QImage::Format_RGB32);
   for (int y = 0; y < image.height(); ++y) {
     auto* row = reinterpret_cast<QRgb*>(image.scanLine(y));
