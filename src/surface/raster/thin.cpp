@@ -52,8 +52,10 @@ class Course {
     const int width = (dx ^ left) - left, height = (dy ^ up) - up;
     steep_ = (width - height) >> 31;
     length = pick(steep_, height, width);
-    const Wide rise = pick(steep_, width, height);
-    start = kOne / 2 - pick(steep_, xSign_, ySign_) * kNudge;
+    rise = pick(steep_, width, height);
+    const int minorSign = pick(steep_, xSign_, ySign_);
+    climbs = minorSign > 0;
+    start = kOne / 2 - minorSign * kNudge;
     if (length < Reciprocals::kCount) {
       slope = rise * kReciprocals.of[length] + 1;
     } else {
@@ -82,7 +84,10 @@ class Course {
     return pick<std::ptrdiff_t>(steep_, xSign_, ySign_ * stride);
   }
 
-  int length;
+  bool isFlat() const { return steep_ == 0 && 2 * rise <= length; }
+
+  int length, rise;  ///< extents of the longer and the shorter axis
+  bool climbs;       ///< the coordinate of the shorter axis increases
   Wide start, slope;
 
  private:
@@ -127,6 +132,65 @@ inline void draw(Bitmap& bitmap, int x1, int y1, int x2, int y2, Plot plot) {
   if (part.first <= part.last) walk(bitmap, course, part, x1, y1, plot);
 }
 
+/// Stores `kPixels` pixels at both ends of a run; they overlap unless it is twice as long.
+template <int kPixels>
+inline void storeEnds(Pixel* first, Pixel* behind, Pixel color) {
+  Pixel pixels[kPixels];
+  for (Pixel& pixel : pixels) pixel = color;
+  std::memcpy(first, pixels, sizeof pixels);
+  std::memcpy(behind - kPixels, pixels, sizeof pixels);
+}
+
+/// Paints a flat line run by run, all of it visible: for each row the pixels first..behind-1. Run k
+/// ends behind the pixel at (k + 1/2) n / d, rounded down; ties as for the heights, of which this
+/// is the course with its axes exchanged. All runs but the outer two have one of two lengths.
+template <class Paint>
+inline void paintRuns(Pixel* p, const Course& course, std::ptrdiff_t aside, bool leftwards,
+                      Pixel color, Paint paintInner) {
+  const Wide advance = course.length * kOne / course.rise + 1;
+  Wide end = advance / 2 + kOne + (course.climbs ? kNudge : -kNudge);
+  Wide from = 0, to = end >> kBits;
+  const auto paintOuter = [color](Pixel* first, Pixel* behind) {
+    fillPixels(first, static_cast<int>(behind - first), color);
+  };
+  const auto step = [&](auto paint) {
+    Pixel* const first = leftwards ? p - to + 1 : p + from;
+    __builtin_prefetch(first, 1);
+    paint(first, first + (to - from));
+    p += aside;
+    end += advance;
+    from = to;
+  };
+  step(paintOuter);
+  for (int row = course.rise - 1; row > 0; --row) {
+    to = end >> kBits;
+    step(paintInner);
+  }
+  to = course.length;
+  step(paintOuter);
+}
+
+void copyFlatLine(Bitmap& bitmap, Pixel color, const Course& course, int x, int y) {
+  const bool leftwards = course.along(0) < 0;
+  Pixel* const p = bitmap.row(y) + x;
+  if (course.rise == 0) {
+    return fillPixels(leftwards ? p - course.length + 1 : p, course.length, color);
+  }
+  const std::ptrdiff_t aside = course.aside(bitmap.width());
+  const int shortest = course.length / course.rise;
+  if (shortest < 4) {
+    paintRuns(p, course, aside, leftwards, color,
+              [color](Pixel* first, Pixel* behind) { storeEnds<2>(first, behind, color); });
+  } else if (shortest < 8) {
+    paintRuns(p, course, aside, leftwards, color,
+              [color](Pixel* first, Pixel* behind) { storeEnds<4>(first, behind, color); });
+  } else {
+    paintRuns(p, course, aside, leftwards, color, [color](Pixel* first, Pixel* behind) {
+      fillPixels(first, static_cast<int>(behind - first), color);
+    });
+  }
+}
+
 }  // namespace
 
 Rect copyThinLine(Bitmap& bitmap, Pixel color, int x1, int y1, int x2, int y2) {
@@ -145,6 +209,8 @@ Rect copyThinLine(Bitmap& bitmap, Pixel color, int x1, int y1, int x2, int y2) {
     const Part whole{0, course.length - 1};
     if (course.length < Reciprocals::kCount) {
       walk(bitmap, course, whole, x1, y1, plot);
+    } else if (course.isFlat()) {
+      copyFlatLine(bitmap, color, course, x1, y1);
     } else {
       walk(bitmap, course, whole, x1, y1, fetchAndPlot);
     }

@@ -40,6 +40,29 @@ TEST(Lines, ThinLinesWithinTheSheetAreRightInEveryDirection) {
   }
 }
 
+TEST(Lines, LongThinLinesAreRightInEveryDirection) {
+  Dice dice(12);
+  const auto expectLong = [&](int x1, int y1, int x2, int y2) {
+    Bitmap want(301, 211, kWhite), got = want;
+    const Pen pen{PenStyle::Solid, 1, kBlack};
+    oracle::line({want}, pen, x1, y1, x2, y2);
+    const Bitmap before = got;
+    const Rect area = raster::line({got}, pen, x1, y1, x2, y2);
+    ASSERT_TRUE(same(want, got)) << x1 << ", " << y1 << " to " << x2 << ", " << y2;
+    ASSERT_TRUE(onlyWithin(area, before, got));
+  };
+  for (int y = 0; y < 211; ++y) {
+    for (const int x : {0, 100, 150, 299, 300}) {
+      expectLong(150, 105, x, y);
+      expectLong(x, y, 149, 104);
+    }
+  }
+  for (int i = 0; i < 2000; ++i) {
+    const int x1 = dice.number(0, 300), y1 = dice.number(0, 210);
+    expectLong(x1, y1, dice.number(0, 300), dice.number(0, 210));
+  }
+}
+
 TEST(Lines, WideLinesAreTheExactCapsuleRoundTheSegment) {
   Dice dice(3);
   for (int i = 0; i < 3000; ++i) {
