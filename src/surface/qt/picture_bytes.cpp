@@ -72,7 +72,9 @@ bool isWholeBmp(const QByteArray& file) {
   const BmpFields bmp(file);
   if (bmp.runLengths()) return bmp.start + bmp.pixelBytes <= file.size();
   const qint64 stride = (bmp.width * bmp.bits + 31) / 32 * 4;
-  return bmp.start + stride * std::abs(bmp.height) <= file.size();
+  // A row that does not fit leaves the product out, which nothing could hold.
+  return bmp.width > 0 && stride <= file.size() &&
+         bmp.start + stride * std::abs(bmp.height) <= file.size();
 }
 
 // A GIF's colours come in tables whose size is a power of two.
