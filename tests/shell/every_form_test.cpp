@@ -1,0 +1,149 @@
+// Every form of the program: opened, every button fired that leads nowhere dangerous, closed.
+#include <QImage>
+#include <filesystem>
+#include <fstream>
+#include <set>
+#include <sstream>
+
+#include "shell/frmEinde.h"
+#include "shell/frmIntro.h"
+#include "shell/frmStart.h"
+#include "studio/frmLineaalH.h"
+#include "studio/frmLineaalV.h"
+#include "studio/frmTekenen2.h"
+#include "support/script.h"
+#include "surface/host.h"
+
+using namespace surface;
+
+namespace {
+
+struct Screen {
+  const char* name;
+  Form& (*open)();
+};
+
+template <class F>
+Form& opened() {
+  return showNew<F>();
+}
+
+// The large studio speaks of itself by its default instance.
+template <class F>
+Form& openedDefault() {
+  the<F>().Show();
+  return the<F>();
+}
+
+const Screen Screens[] = {
+    {"frmEinde", opened<frmEinde>},        {"frmIntro", opened<frmIntro>},
+    {"frmLineaalH", opened<frmLineaalH>},  {"frmLineaalV", opened<frmLineaalV>},
+    {"frmStart", openedDefault<frmStart>}, {"frmTekenen2", openedDefault<frmTekenen2>}};
+
+bool isLoadedStill(const Form& form) {
+  for (const auto& loaded : FormRegistry::instance().forms())
+    if (loaded.get() == &form) return true;
+  return false;
+}
+
+void collect(const Container& container, std::vector<Control*>& found) {
+  for (Control* control : container.controls()) {
+    found.push_back(control);
+    if (const Container* inner = control->asContainer()) collect(*inner, found);
+  }
+}
+
+// True if the control has a click to fire.
+bool fire(Control& control) {
+  if (auto* button = dynamic_cast<CommandButton*>(&control)) return button->Click(), true;
+  if (auto* option = dynamic_cast<OptionButton*>(&control)) return option->Click(), true;
+  if (auto* box = dynamic_cast<PictureBox*>(&control)) return box->Click(), true;
+  if (auto* image = dynamic_cast<ImageControl*>(&control)) return image->Click(), true;
+  if (auto* check = dynamic_cast<CheckBox*>(&control)) return check->Click(), true;
+  if (auto* list = dynamic_cast<ComboBox*>(&control)) return list->Click(), true;
+  if (auto* slider = dynamic_cast<Slider*>(&control)) return slider->Scroll(), true;
+  return false;
+}
+
+}  // namespace
+
+class EveryForm : public script::Stage, public testing::WithParamInterface<Screen> {
+ protected:
+  // No to every question, a cancel for every dialog.
+  void declineEverything() {
+    Host& seams = host();
+    seams.msgBox = [](const std::string&, int buttons, const std::string&) {
+      return buttons & YesNo ? No : Ok;
+    };
+    seams.inputBox = [](const std::string&, const std::string&, const std::string&) {
+      return std::optional<std::string>();
+    };
+    seams.fileDialog = [](const FileRequest&) { return std::optional<std::string>(); };
+    seams.colorDialog = [](Color, int) { return std::optional<Color>(); };
+  }
+};
+
+TEST_P(EveryForm, OpensServesEveryButtonAndCloses) {
+  declineEverything();
+  Form* form = &GetParam().open();
+  EXPECT_TRUE(form->shown());
+  EXPECT_FALSE(shown(*form).isNull());
+  std::vector<Control*> controls;
+  collect(*form, controls);
+  for (std::size_t i = 0; i < controls.size(); ++i) {
+    const std::string tip = controls[i]->ToolTipText;
+    dispatch([&] { fire(*controls[i]); });
+    EXPECT_EQ(takeErrorReport(), std::nullopt) << tip;
+    ASSERT_FALSE(ended()) << tip;
+    if (isLoadedStill(*form)) {
+      form->Show();  // a button may have led to another form
+      continue;
+    }
+    // That button leaves the form: the rest is tried on the next one.
+    form = &GetParam().open();
+    controls.clear();
+    collect(*form, controls);
+  }
+  closeBox(*form);
+  EXPECT_TRUE(ended() || !isLoadedStill(*form));
+  EXPECT_EQ(takeErrorReport(), std::nullopt);
+}
+
+TEST_P(EveryForm, IsDrawnWithEveryPanelOpenAtOnce) {
+  Form& form = GetParam().open();
+  std::vector<Control*> controls;
+  collect(form, controls);
+  for (Control* control : controls) control->Visible = true;
+  EXPECT_FALSE(shown(form).isNull());
+  for (Control* control : controls) control->Visible = false;
+  EXPECT_FALSE(shown(form).isNull());
+  EXPECT_EQ(takeErrorReport(), std::nullopt);
+}
+
+INSTANTIATE_TEST_SUITE_P(Each, EveryForm, testing::ValuesIn(Screens),
+                         [](const auto& screen) { return std::string(screen.param.name); });
+
+// The classes that a header derives from something and that bear a form's name.
+std::set<std::string> formsIn(const std::filesystem::path& header) {
+  std::set<std::string> found;
+  std::ifstream file(header);
+  for (std::string line; std::getline(file, line);) {
+    std::istringstream words(line);
+    std::string keyword, name, colon;
+    words >> keyword >> name >> colon;
+    // A table of controls is only the base of its form.
+    const bool form = keyword == "class" && name.starts_with("frm") && colon == ":";
+    if (form && !name.ends_with("_controls")) found.insert(name);
+  }
+  return found;
+}
+
+// A new form must find its way into the list above.
+TEST(EveryFormOfTheTree, IsTried) {
+  std::set<std::string> tried, known;
+  for (const Screen& screen : Screens) tried.insert(screen.name);
+  for (const auto& entry :
+       std::filesystem::recursive_directory_iterator(std::string(KRASPRET_TREE) + "/src"))
+    if (entry.path().extension() == ".h") known.merge(formsIn(entry.path()));
+  EXPECT_EQ(tried, known);
+}
