@@ -132,6 +132,24 @@ inline void draw(Bitmap& bitmap, int x1, int y1, int x2, int y2, Plot plot) {
   if (part.first <= part.last) walk(bitmap, course, part, x1, y1, plot);
 }
 
+/// A line that lies on the bitmap in one colour: walk() with nothing but what the pixels need.
+template <bool kFetch>
+inline void copySteps(Bitmap& bitmap, Pixel color, const Course& course, int x, int y) {
+  const std::ptrdiff_t stride = bitmap.width();
+  const std::ptrdiff_t along = course.along(stride), aside = course.aside(stride);
+  Pixel* base = bitmap.row(y) + x;
+  Wide height = course.start;
+  for (int count = course.length; count > 0; --count) {
+    Pixel* const p = base + (height >> kBits) * aside;
+    // A steep line meets another line of the cache with every pixel. Stores wait for each other,
+    // but the fetches that they need may overtake.
+    if constexpr (kFetch) __builtin_prefetch(p, 1);
+    *p = color;
+    base += along;
+    height += course.slope;
+  }
+}
+
 /// Stores `kPixels` pixels at both ends of a run; they overlap unless it is twice as long.
 template <int kPixels>
 inline void storeEnds(Pixel* first, Pixel* behind, Pixel color) {
@@ -194,29 +212,20 @@ void copyFlatLine(Bitmap& bitmap, Pixel color, const Course& course, int x, int 
 }  // namespace
 
 Rect copyThinLine(Bitmap& bitmap, Pixel color, int x1, int y1, int x2, int y2) {
-  const auto plot = [color](Pixel* p, Wide) { *p = color; };
-  // A steep line meets another line of the cache with every pixel. Stores wait for each other, but
-  // the fetches that they need may overtake.
-  const auto fetchAndPlot = [color](Pixel* p, Wide) {
-    __builtin_prefetch(p, 1);
-    *p = color;
-  };
   // Nearly all lines lie on the sheet, and most are a few pixels long: there every instruction
   // that is not for a pixel counts.
   if (bitmap.contains(x1, y1) && bitmap.contains(x2, y2)) {
-    if (x1 == x2 && y1 == y2) return {};
     const Course course(x1, y1, x2, y2);
-    const Part whole{0, course.length - 1};
     if (course.length < Reciprocals::kCount) {
-      walk(bitmap, course, whole, x1, y1, plot);
+      copySteps<false>(bitmap, color, course, x1, y1);
     } else if (course.isFlat()) {
       copyFlatLine(bitmap, color, course, x1, y1);
     } else {
-      walk(bitmap, course, whole, x1, y1, fetchAndPlot);
+      copySteps<true>(bitmap, color, course, x1, y1);
     }
     return {std::min(x1, x2), std::min(y1, y2), std::max(x1, x2) + 1, std::max(y1, y2) + 1};
   }
-  draw(bitmap, x1, y1, x2, y2, fetchAndPlot);
+  draw(bitmap, x1, y1, x2, y2, [color](Pixel* p, Wide) { *p = color; });
   return changed(bitmap, std::min(x1, x2), std::min(y1, y2), std::max(x1, x2), std::max(y1, y2));
 }
 
