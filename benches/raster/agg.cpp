@@ -1,6 +1,7 @@
 // Anti-Grain Geometry: its primitives where it has any, its rasteriser with binary scanlines else.
 #include <agg_conv_stroke.h>
 #include <agg_ellipse.h>
+#include <agg_gamma_functions.h>
 #include <agg_path_storage.h>
 #include <agg_pixfmt_rgba.h>
 #include <agg_rasterizer_scanline_aa.h>
@@ -30,6 +31,8 @@ class Agg : public Contender {
         primitives_(base_) {
     primitives_.line_color(ink_);
     primitives_.fill_color(ink_);
+    // Without it every pixel that an outline only touches would be painted.
+    rasterizer_.gamma(agg::gamma_threshold(0.5));
   }
 
   Job chains(const std::vector<std::vector<workloads::Point>>& strokes, int width) override {

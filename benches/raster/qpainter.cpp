@@ -15,7 +15,6 @@ class QtContender : public Contender {
     image_.fill(kPaper);
     painter_.begin(&image_);
     painter_.setRenderHint(QPainter::Antialiasing, false);
-    painter_.setCompositionMode(QPainter::CompositionMode_Source);
   }
 
   // One call for all lines, which spares the painter its checks for each of them.
@@ -27,7 +26,7 @@ class QtContender : public Contender {
       }
     }
     return [this, lines, width] {
-      painter_.setPen(QPen(QColor::fromRgb(kInk), width, Qt::SolidLine, Qt::RoundCap));
+      painter_.setPen(pen(width));
       painter_.drawLines(lines.data(), int(lines.size()));
     };
   }
@@ -36,7 +35,7 @@ class QtContender : public Contender {
     std::vector<QLine> lines;
     for (const auto& [from, to] : segments) lines.emplace_back(from.x, from.y, to.x, to.y);
     return [this, lines] {
-      painter_.setPen(QPen(QColor::fromRgb(kInk), 1));
+      painter_.setPen(pen(1));
       painter_.drawLines(lines.data(), int(lines.size()));
     };
   }
@@ -52,7 +51,7 @@ class QtContender : public Contender {
 
   Job outlines(const std::vector<workloads::Oval>& ovals) override {
     return [this, &ovals] {
-      painter_.setPen(QPen(QColor::fromRgb(kInk), 1));
+      painter_.setPen(pen(1));
       painter_.setBrush(Qt::NoBrush);
       drawEllipses(ovals);
     };
@@ -60,7 +59,7 @@ class QtContender : public Contender {
 
   Job discs(const std::vector<workloads::Oval>& ovals) override {
     return [this, &ovals] {
-      painter_.setPen(QPen(QColor::fromRgb(kInk), 1));
+      painter_.setPen(pen(1));
       painter_.setBrush(QColor::fromRgb(kInk));
       drawEllipses(ovals);
     };
@@ -77,6 +76,13 @@ class QtContender : public Contender {
   }
 
  private:
+  // Of width 1 the cosmetic pen: it has the painter's fast lines.
+  static QPen pen(int width) {
+    QPen result(QColor::fromRgb(kInk), width, Qt::SolidLine, Qt::RoundCap);
+    result.setCosmetic(width == 1);
+    return result;
+  }
+
   void drawEllipses(const std::vector<workloads::Oval>& ovals) {
     for (const auto& [centre, rx, ry] : ovals) {
       painter_.drawEllipse(centre.x - rx, centre.y - ry, 2 * rx, 2 * ry);

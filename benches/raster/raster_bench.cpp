@@ -103,13 +103,14 @@ class Times : public benchmark::ConsoleReporter {
   std::map<std::string, double> best_;
 };
 
-/// Stops the race if a peer paints another picture: then its time says nothing.
+/// Stops the race if a peer paints another picture: then its time says nothing. The widest gap is
+/// that of OpenCV, which knows odd widths only and makes 9 of 8.
 void checkPainted(const std::string& name, long ours, long theirs) {
-  constexpr double kTolerance = 0.06;
+  constexpr double kTolerance = 0.12;
   const double ratio = ours == 0 ? 1 : double(theirs) / double(ours);
   if (std::abs(ratio - 1) <= kTolerance) return;
   std::fprintf(stderr, "%s paints %.3f times our pixels\n", name.c_str(), ratio);
-  //EXIT std::exit(1);
+  std::exit(1);
 }
 
 /// Paints the workload once and registers it; gives the pixels painted, -1 if there is no job.
@@ -184,6 +185,24 @@ void printTable(const Times& times, const std::vector<Pictures>& sheets) {
   }
 }
 
+/// The times behind the ratios, for all contenders.
+void printAll(const Times& times, const std::vector<Pictures>& sheets) {
+  std::printf("\n%-26s %-10s %10s", "milliseconds", "sheet", kOurs.name);
+  for (const Entrant& peer : kPeers) std::printf(" %10s", peer.name);
+  for (const Pictures& pictures : sheets) {
+    for (const Discipline& discipline : kDisciplines) {
+      const double ours = times.of(runName(discipline, pictures.size, kOurs));
+      if (ours == 0) continue;
+      std::printf("\n%-26s %-10s %10.4f", discipline.name, sizeName(pictures.size).c_str(), ours);
+      for (const Entrant& peer : kPeers) {
+        const double time = times.of(runName(discipline, pictures.size, peer));
+        time == 0 ? std::printf(" %10s", "-") : std::printf(" %10.4f", time);
+      }
+    }
+  }
+  std::printf("\n");
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -203,5 +222,6 @@ int main(int argc, char** argv) {
   enterAll(sheets, contenders);
   Times times;
   benchmark::RunSpecifiedBenchmarks(&times);
+  printAll(times, sheets);
   printTable(times, sheets);
 }
