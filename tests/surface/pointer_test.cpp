@@ -29,15 +29,10 @@ class Desk : public Form {
 
  private:
   void note(const char* what, const Mouse& at) {
-    std::string told = std::string(what) + " " + toText(at.Button);
-    if (at.Shift) told += "/" + toText(at.Shift);
-    told += "@" + toText(at.X) + "," + toText(at.Y) + " ";
-    // Before a press or release elsewhere the toolkit tells the move once more.
-    if (told != last) heard += told;
-    last = told;
+    heard += std::string(what) + " " + toText(at.Button);
+    if (at.Shift) heard += "/" + toText(at.Shift);
+    heard += "@" + toText(at.X) + "," + toText(at.Y) + " ";
   }
-
-  std::string last;
 };
 
 }  // namespace
