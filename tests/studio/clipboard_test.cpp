@@ -1,5 +1,11 @@
 // Cut, copy and paste: always the whole sheet, always into the upper left corner.
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QImage>
+
 #include "studio/studio.h"
+#include "surface/host.h"
+#include "surface/qt/dialogs.h"
 
 using namespace surface;
 
@@ -129,4 +135,65 @@ TEST_F(ClipboardButtons, AfterACutUndoStillBringsBackItsSnapshot) {
   ASSERT_TRUE(shows(sheet, blank()));
   click(studio.cmdUndo);
   EXPECT_TRUE(shows(sheet, atPress));
+}
+
+// The same through the system's own clipboard.
+class SystemClipboard : public ClipboardButtons {
+ protected:
+  SystemClipboard() {
+    host().setClipboard = surface::qt::setClipboard;
+    host().getClipboard = surface::qt::getClipboard;
+  }
+  ~SystemClipboard() override { system->clear(); }
+  QClipboard* system = QGuiApplication::clipboard();
+};
+
+TEST_F(SystemClipboard, OtherProgramsGetTheSheetWithoutTransparency) {
+  draw();
+  click(studio.cmdCopy);
+  const QImage copy = system->image();
+  ASSERT_EQ(copy.size(), QSize(617, 537));
+  EXPECT_FALSE(copy.hasAlphaChannel());
+  EXPECT_EQ(copy.pixel(100, 100), toPixel(Black));
+  EXPECT_EQ(copy.pixel(10, 10), toPixel(White));
+  // A later stroke does not reach what was copied.
+  click(studio.cmdClear);
+  EXPECT_EQ(system->image().pixel(100, 100), toPixel(Black));
+}
+
+TEST_F(SystemClipboard, CutFollowedByPasteRestoresTheSheet) {
+  draw();
+  const raster::Bitmap drawn = canvas();
+  click(studio.cmdKnippen);
+  ASSERT_TRUE(shows(sheet, blank()));
+  click(studio.cmdPlakken);
+  EXPECT_TRUE(shows(sheet, drawn));
+}
+
+TEST_F(SystemClipboard, PicturesOfOtherProgramsArePasted) {
+  QImage foreign(60, 40, QImage::Format_ARGB32);
+  foreign.fill(qRgba(255, 128, 0, 255));
+  foreign.setPixel(5, 6, qRgba(0, 0, 0, 0));
+  system->setImage(foreign);
+  click(studio.cmdPlakken);
+  EXPECT_EQ(sheet.Point({0, 0}), RGB(255, 128, 0));
+  EXPECT_EQ(sheet.Point({59, 39}), RGB(255, 128, 0));
+  EXPECT_EQ(sheet.Point({60, 39}), White);
+  EXPECT_EQ(sheet.Point({5, 6}), White) << "what is transparent is white on a sheet";
+}
+
+TEST_F(SystemClipboard, AnythingButAPictureMakesTheSheetBlank) {
+  draw();
+  system->setText("geen plaatje");
+  click(studio.cmdPlakken);
+  EXPECT_TRUE(shows(sheet, blank()));
+}
+
+TEST_F(SystemClipboard, ASheetOfNoSizeLeavesNothing) {
+  sheet.Width = 0;
+  system->setText("van daarvoor");
+  click(studio.cmdKnippen);
+  click(studio.cmdPlakken);
+  EXPECT_TRUE(sheet.Picture->empty());
+  EXPECT_EQ(takeErrorReport(), std::nullopt);
 }

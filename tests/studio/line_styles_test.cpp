@@ -75,6 +75,15 @@ TEST_F(LineStyles, ThePanelAlwaysStartsWithAThinBlackPencil) {
   EXPECT_EQ(sheet.Point({40, 21}), White);
 }
 
+TEST_F(LineStyles, ThePanelPutsTheSliderBackAlsoWhenTheStyleStayed) {
+  click(studio.cmdLijnen);
+  slide(studio.Slider1, 9);
+  click(studio.cmdLijnen);
+  EXPECT_EQ(studio.Slider1.Value, 1);
+  EXPECT_EQ(studio.Line2.BorderWidth, 1);
+  EXPECT_EQ(sheet.DrawWidth, 1);
+}
+
 TEST_F(LineStyles, TheSliderSetsThePenAndItsSample) {
   click(studio.cmdLijnen);
   const Color red = pickColor(2);

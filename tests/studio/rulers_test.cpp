@@ -109,6 +109,15 @@ TEST_F(Rulers, OpeningThePanelClosesAnotherOne) {
   EXPECT_FALSE(studio.fraLijnen.Visible);
 }
 
+TEST_F(Rulers, AppearInTheCornerUntilTheChoicePlacesThem) {
+  for (Form* ruler :
+       {static_cast<Form*>(&loadNew<frmLineaalH>()), static_cast<Form*>(&loadNew<frmLineaalV>())}) {
+    EXPECT_TRUE(ruler->placed());
+    EXPECT_EQ(ruler->Left.get(), 0);
+    EXPECT_EQ(ruler->Top.get(), 0);
+  }
+}
+
 TEST_F(Rulers, AVerticalOneStandsAtTheSheetsLeftEdge) {
   choose(studio.Option1);
   ASSERT_TRUE(vertical());
@@ -169,6 +178,16 @@ TEST_F(Rulers, NoneTakesBothAway) {
   EXPECT_FALSE(isLoaded<frmLineaalV>());
   EXPECT_TRUE(studio.Option3.Value);
   EXPECT_FALSE(studio.fraLineaal.Visible);
+}
+
+TEST_F(Rulers, AChoiceMadeByCodeIsMarkedToo) {
+  for (OptionButton* option :
+       {&studio.Option1, &studio.Option2, &studio.Option4, &studio.Option3}) {
+    click(studio.cmdLineaal);
+    option->Click();
+    EXPECT_TRUE(option->Value) << option->Caption.get();
+    EXPECT_FALSE(studio.fraLineaal.Visible);
+  }
 }
 
 TEST_F(Rulers, NoneWithNoRulerOpenClosesThePanelAndNothingElse) {
@@ -236,7 +255,7 @@ TEST_F(Rulers, TheVerticalScaleIsDrawnToTheMillimetre) {
 TEST_F(Rulers, NumbersOfTwoDigitsStandFurtherBeforeTheirTick) {
   choose(studio.Option2);
   auto& ruler = the<frmLineaalH>();
-  // The dot at a number's origin, below the ticks and above the digits.
+  // The dot that marks a number's upper left corner.
   const float row = 0.5f;
   EXPECT_EQ(ruler.Point({9 - 0.13f, row}), Black);
   EXPECT_EQ(ruler.Point({9 - 0.2f, row}), Yellow);

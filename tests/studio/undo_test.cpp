@@ -12,6 +12,7 @@ class Undo : public Studio {
 TEST_F(Undo, StartsWithTheEmptySheetToGoBackToAndNothingToRedo) {
   EXPECT_TRUE(studio.cmdUndo.Enabled);
   EXPECT_FALSE(studio.cmdRedo.Enabled);
+  ASSERT_FALSE(studio.picUndo.Picture->empty());
   EXPECT_TRUE(same(*studio.picUndo.Picture->bitmap(), blank()));
   click(studio.cmdUndo);
   EXPECT_TRUE(shows(sheet, blank()));
@@ -98,8 +99,10 @@ TEST_F(Undo, APressOfAnyButtonTakesTheSnapshots) {
   press(sheet, 300, 300, 2);
   release(sheet, 300, 300, 2);
   const raster::Bitmap atPress = canvas();
-  for (const PictureBox* store : {&studio.picUndo, &studio.picRedo})
+  for (const PictureBox* store : {&studio.picUndo, &studio.picRedo}) {
+    ASSERT_FALSE(store->Picture->empty());
     EXPECT_TRUE(same(*store->Picture->bitmap(), atPress));
+  }
 }
 
 TEST_F(Undo, AfterAFillItComesBackWithThePencilAndGivesTheSheetWithTheFill) {
@@ -217,6 +220,7 @@ TEST_F(Undo, AnEffectClosesThePanelsTurnsUndoOffAndMovesTheChain) {
   EXPECT_EQ(sheet.ForeColor, Black);
   EXPECT_FALSE(studio.cmdUndo.Enabled);
   EXPECT_TRUE(shows(sheet, drawn));
+  ASSERT_FALSE(studio.UndoPic(0).Picture->empty());
   EXPECT_TRUE(same(*studio.UndoPic(0).Picture->bitmap(), drawn));
   // A tool brings it back on, with the sheet of the last press.
   click(studio.cmdLijn);
