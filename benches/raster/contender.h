@@ -24,6 +24,10 @@ class Contender {
   virtual Job chains(const std::vector<std::vector<workloads::Point>>&, int /*width*/) {
     return {};
   }
+  /// The same chains, width 1, with a call for every line where that is not the only way anyhow.
+  virtual Job pieces(const std::vector<std::vector<workloads::Point>>& strokes) {
+    return chains(strokes, 1);
+  }
   virtual Job lines(const std::vector<workloads::Segment>&) { return {}; }
   virtual Job boxes(const std::vector<workloads::Point>&) { return {}; }
   virtual Job outlines(const std::vector<workloads::Oval>&) { return {}; }

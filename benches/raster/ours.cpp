@@ -16,14 +16,24 @@ class Ours : public Contender {
  public:
   explicit Ours(workloads::Size size) : sheet_(size.width, size.height, kPaper) {}
 
+  // Thin chains all at once, as the art line is drawn.
   Job chains(const std::vector<std::vector<workloads::Point>>& strokes, int width) override {
-    return [this, &strokes, pen = raster::Pen{PenStyle::Solid, width, kInk}] {
-      for (const auto& stroke : strokes) {
-        for (std::size_t i = 1; i < stroke.size(); ++i) {
-          raster::line({sheet_}, pen, stroke[i - 1].x, stroke[i - 1].y, stroke[i].x, stroke[i].y);
-        }
+    if (width != 1) return lineByLine(strokes, width);
+    std::vector<raster::Spot> spots;
+    for (const auto& stroke : strokes) {
+      for (const auto& [x, y] : stroke) {
+        spots.push_back({static_cast<std::int16_t>(x), static_cast<std::int16_t>(y)});
       }
+    }
+    const std::vector<raster::Pixel> colors(strokes.at(0).size() - 1, kInk);
+    return [this, spots, colors, count = static_cast<int>(strokes.size())] {
+      raster::strokes({sheet_}, kThin, spots.data(), count, colors.data(),
+                      static_cast<int>(colors.size()));
     };
+  }
+
+  Job pieces(const std::vector<std::vector<workloads::Point>>& strokes) override {
+    return lineByLine(strokes, 1);
   }
 
   Job lines(const std::vector<workloads::Segment>& segments) override {
@@ -86,6 +96,16 @@ class Ours : public Contender {
   }
 
  private:
+  Job lineByLine(const std::vector<std::vector<workloads::Point>>& strokes, int width) {
+    return [this, &strokes, pen = raster::Pen{PenStyle::Solid, width, kInk}] {
+      for (const auto& stroke : strokes) {
+        for (std::size_t i = 1; i < stroke.size(); ++i) {
+          raster::line({sheet_}, pen, stroke[i - 1].x, stroke[i - 1].y, stroke[i].x, stroke[i].y);
+        }
+      }
+    };
+  }
+
   static constexpr raster::Pen kThin{PenStyle::Solid, 1, kInk};
   static constexpr raster::Pixel kWall = 0xFF000000;
 
