@@ -2,6 +2,7 @@
 #include "surface/controls.h"
 
 #include <QComboBox>
+#include <QPlainTextEdit>
 #include <QSlider>
 #include <QTest>
 
@@ -20,6 +21,8 @@ class Box : public Form {
   TextBox txtVast{
       *this,
       {.Left = 150, .Top = 600, .Width = 1500, .Height = 375, .Text = "vast", .Locked = true}};
+  TextBox txtLang{*this,
+                  {.Left = 3750, .Top = 2400, .Width = 1500, .Height = 900, .MultiLine = true}};
   Frame fraKeuze{*this, {.Left = 1800, .Top = 150, .Width = 1800, .Height = 1800}};
   OptionButton Option1{fraKeuze,
                        {.Left = 150, .Top = 300, .Width = 1500, .Height = 300, .Caption = "een"}};
@@ -105,6 +108,18 @@ TEST_F(Controls, ALockedTextCannotBeTypedOverButSetByCode) {
   EXPECT_EQ(box.txtVast.Text, "vast");
   box.txtVast.Text = "anders";
   EXPECT_EQ(box.txtVast.Text, "anders");
+}
+
+TEST_F(Controls, ATextOfSeveralLinesIsTypedAndSetLikeAnyOther) {
+  box.txtLang.Change = count;
+  box.txtLang.SetFocus();
+  type("ab");
+  EXPECT_EQ(box.txtLang.Text, "ab");
+  EXPECT_EQ(fired, 2);
+  box.txtLang.Text = "een\ntwee";
+  EXPECT_EQ(fired, 3);
+  EXPECT_EQ(qobject_cast<QPlainTextEdit*>(script::widgetOf(box.txtLang))->toPlainText(),
+            "een\ntwee");
 }
 
 TEST_F(Controls, ChoosingAnOptionTakesTheMarkFromItsNeighbourOnly) {

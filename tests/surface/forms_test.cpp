@@ -258,6 +258,16 @@ TEST_F(Forms, ASizeByCodeMovesTheEdgesOfTheWindow) {
   EXPECT_EQ(shown(room).size(), QSize(300, 100));
 }
 
+TEST_F(Forms, AWindowMayBeKeptAboveAllOthers) {
+  Room& room = the<Room>();
+  room.Show();
+  const QWidget* window = script::widgetOf(room.cmdWeg)->window();
+  EXPECT_FALSE(window->windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+  room.setTopMost();
+  EXPECT_TRUE(window->windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+  EXPECT_TRUE(windowOnScreen("kamer"));
+}
+
 TEST_F(Forms, FocusGoesWhereCodePutsIt) {
   Room& room = the<Room>();
   room.Show();
