@@ -148,12 +148,13 @@ class Program:
                 yield child
                 yield from self._walk(child)
 
-    def controls(self):
-        """Everything that shows, in all windows, in tree order. Empty when the program is just changing its windows."""
+    def controls(self, within=None):
+        """Everything that shows, in all windows or within one control, in tree order. Empty when the program is just changing its
+        windows."""
         from gi.repository import GLib
         try:
-            application = self._application()
-            return [Control(self.desktop, node) for node in self._walk(application)] if application else []
+            root = within.node if within else self._application()
+            return [Control(self.desktop, node) for node in self._walk(root)] if root else []
         except GLib.Error:
             return []
 

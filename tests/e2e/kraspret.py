@@ -51,6 +51,11 @@ class KrasPret(driver.Program):
     def name_field(self):
         return driver.until(lambda: next((c for c in self.controls() if c.role == "text" and c.enabled), None), "name field")
 
+    def wait_thanks(self, name):
+        """The farewell, with this name in it."""
+        self.control("Bedankt,")
+        driver.until(lambda: any(c.text == name for c in self.controls() if c.role == "text"), f"thanks to {name!r}")
+
     def wait_focus(self, control):
         driver.until(lambda: control.has("FOCUSED"), f"focus on {control.name!r}")
 
@@ -137,8 +142,8 @@ class KrasPret(driver.Program):
 
     def answer(self, question, button):
         """Clicks a button of a message box with this title; gives the text that the box showed."""
-        self.wait_dialog(question)
-        text = "\n".join(c.name for c in self.controls() if c.role == "label")
+        box = self.wait_dialog(question)
+        text = driver.until(lambda: "\n".join(c.name for c in self.controls(box) if c.role == "label") or None, "text in the box")
         self.control(button, role="push button").click()
         driver.until(lambda: not self.shows(question), f"end of the question {question!r}")
         return text
