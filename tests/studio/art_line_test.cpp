@@ -2,6 +2,7 @@
 // single precision, and every line of it painted on a plain bitmap.
 #include <array>
 #include <cmath>
+#include <random>
 
 #include "studio/studio.h"
 
@@ -93,6 +94,27 @@ TEST_F(ArtLine, LeavesTheFanOfTheLiteralChain) {
     ASSERT_TRUE(shows(sheet, should)) << "after the move to " << x << ", " << y;
   }
   EXPECT_FALSE(shows(sheet, blank())) << "nothing was drawn at all";
+}
+
+TEST_F(ArtLine, LeavesTheFanOfTheLiteralChainWhereverTheHandGoes) {
+  click(studio.cmdArt);
+  for (std::uint32_t seed = 100; seed < 120; ++seed) {
+    SCOPED_TRACE(seed);
+    std::mt19937 hand(seed);
+    const auto place = [&](int size) { return static_cast<int>(hand() % (size + 200)) - 100; };
+    sheet.Cls();
+    raster::Bitmap should = canvas();
+    LiteralArtLine chain = pressed(place(417) + 100, place(337) + 100, seed);
+    int x = 0, y = 0;
+    for (int moves = 0; moves < 8; ++moves) {
+      x = place(617);
+      y = place(537);
+      move(sheet, x, y, 1);
+      chain.moveTo(should, static_cast<float>(x), static_cast<float>(y));
+    }
+    release(sheet, x, y);
+    ASSERT_TRUE(shows(sheet, should));
+  }
 }
 
 TEST_F(ArtLine, IsAsThickAsThePen) {

@@ -1,6 +1,7 @@
 // Filling, pattern filling and picking a colour: all three act at the press.
 #include <QScreen>
 #include <QWindow>
+#include <random>
 
 #include "studio/studio.h"
 
@@ -179,6 +180,28 @@ TEST_P(Hatches, FillWithTheirPattern) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Each, Hatches, testing::Range(0, 7));
+
+// Scrawled lines and hatches over hatches: regions of every shape.
+TEST_F(Fills, PatternsFillWhatTheLiteralFloodFills) {
+  for (std::uint32_t seed = 1; seed <= 6; ++seed) {
+    SCOPED_TRACE(seed);
+    std::mt19937 hand(seed);
+    const auto upTo = [&](int n) { return static_cast<int>(hand() % static_cast<unsigned>(n)); };
+    sheet.Cls();
+    for (int lines = 0; lines < 12; ++lines)
+      sheet.Line({static_cast<float>(upTo(617)), static_cast<float>(upTo(537))},
+                 {static_cast<float>(upTo(617)), static_cast<float>(upTo(537))}, Black);
+    for (int fills = 0; fills < 12; ++fills) {
+      const int pattern = upTo(7), x = upTo(617), y = upTo(537);
+      choosePattern(pattern);
+      const raster::Pixel ink = toPixel(pickColor(upTo(120)));
+      raster::Bitmap should = canvas();
+      oracle::floodFill({should}, {Patterns[pattern].style, ink}, x, y, should.at(x, y));
+      reachAndPress(x, y);
+      ASSERT_TRUE(shows(sheet, should)) << "pattern " << pattern << " at " << x << ", " << y;
+    }
+  }
+}
 
 class HatchDirection : public Fills {
  protected:

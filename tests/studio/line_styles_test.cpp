@@ -241,7 +241,7 @@ TEST_F(LineStyles, APencilStrokeWithBeadsHasItsLineAndItsBeads) {
   EXPECT_EQ(sheet.ForeColor, Black);
 }
 
-TEST_F(LineStyles, AZipHasATeethAtEveryMove) {
+TEST_F(LineStyles, AZipHasAToothAtEveryMove) {
   choose(Zip);
   raster::Bitmap should = canvas();
   seedRandom(24);

@@ -1,6 +1,7 @@
 // The thirteen stamps: their panel, each figure against its list of lines, and the trail of a drag.
 #include <array>
 #include <cmath>
+#include <random>
 
 #include "studio/studio.h"
 
@@ -274,6 +275,20 @@ TEST_F(Stamps, MatchSticksFallAtRandomAndGrowWithTheThickness) {
     for (int i = 0; i < 12; ++i) literalMatch(should, 50, 50, color, thickness);
     EXPECT_TRUE(shows(sheet, should)) << thickness;
   }
+}
+
+TEST_F(Stamps, ASheetFullOfThemIsTheSumOfTheirFigures) {
+  std::mt19937 hand(44);
+  raster::Bitmap should = canvas();
+  for (int i = 0; i < 60; ++i) {
+    const int figure = 1 + static_cast<int>(hand() % 12);
+    choose(figure);
+    const Color color = pickColor(static_cast<int>(hand() % 120));
+    const int x = static_cast<int>(hand() % 617), y = static_cast<int>(hand() % 537);
+    literalStamp(should, figure, x, y, color);
+    pressAndRelease(x, y);
+  }
+  EXPECT_TRUE(shows(sheet, should));
 }
 
 TEST_F(Stamps, AMatchStickLeavesThePenThickUntilAStampIsChosenAnew) {
