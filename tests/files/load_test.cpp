@@ -76,6 +76,22 @@ TEST_F(Loading, ABitmapOfEightBitsAPixel) {
   expectPixels(load(paletteBmp(Wide, High, 8, Palette, colorful)), Wide, High, colorful);
 }
 
+TEST_F(Loading, ABitmapOfRunLengths) {
+  // Five of the second colour, three of the third, then each of the five, padded; end of the row.
+  const Bytes row("\x05\x01\x03\x02\0\x05\0\x01\x02\x03\x04\0\0\0", 14);
+  const int indices[Wide] = {1, 1, 1, 1, 1, 2, 2, 2, 0, 1, 2, 3, 4};
+  Bytes runs;
+  for (int y = 0; y < High; ++y) runs += row;
+  runs += Bytes("\0\x01", 2);
+  Bytes bytes = bmpHeader(Wide, High, 8, static_cast<std::uint32_t>(Palette.size()),
+                          static_cast<std::uint32_t>(runs.size()));
+  bytes[30] = 1;
+  for (const Rgb color : Palette) put32(bytes, color);
+  expectPixels(load(bytes + runs), Wide, High,
+               [&](int x, int) { return Palette[static_cast<std::size_t>(indices[x])]; });
+  expectRefused(bytes + runs.substr(0, runs.size() / 2));
+}
+
 TEST_F(Loading, ABitmapOfSixteenBitsAPixel) {
   expectPixels(load(trueColorBmp(Wide, High, 16, colorful)), Wide, High, colorful);
 }

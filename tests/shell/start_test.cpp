@@ -3,6 +3,8 @@
 #include <QScreen>
 #include <QWidget>
 #include <stdexcept>
+#include <string>
+#include <vector>
 
 #include "shell/frmEinde.h"
 #include "shell/frmIntro.h"
@@ -10,6 +12,7 @@
 #include "studio/frmTekenen2.h"
 #include "support/script.h"
 #include "surface/host.h"
+#include "surface/qt/text_layout.h"
 
 using namespace surface;
 
@@ -20,6 +23,30 @@ void expectPlace(const Control& control, float left, float top, float width, flo
   EXPECT_EQ(control.Top, top);
   EXPECT_EQ(control.Width, width);
   EXPECT_EQ(control.Height, height);
+}
+
+/// The lines into which a text breaks in its place, without the blanks at their ends; a failure if
+/// they do not fit its height.
+std::vector<std::string> lines(const std::string& text, const Font& font, const QRect& place) {
+  const QFontMetrics metrics(surface::qt::toQFont(font));
+  std::vector<std::string> all;
+  for (const QString& line :
+       surface::qt::wrapped(QString::fromStdString(text), metrics, place.width()))
+    all.push_back(line.trimmed().toStdString());
+  EXPECT_LE(static_cast<int>(all.size()) * metrics.height(), place.height()) << text;
+  return all;
+}
+
+std::vector<std::string> lines(Label& label) {
+  const QSize size = script::widgetOf(label)->size();
+  return lines(label.Caption, label.Font, QRect({}, size).adjusted(2, 0, -2, 0));
+}
+
+std::vector<std::string> lines(CommandButton& button) {
+  std::string text = button.Caption;
+  std::erase(text, '&');
+  const QSize size = script::widgetOf(button)->size();
+  return lines(text, button.Font, QRect({}, size).adjusted(3, 3, -3, -3));
 }
 
 QWidget* windowOf(Control& control) { return script::widgetOf(control)->window(); }
@@ -103,6 +130,15 @@ TEST_F(Start, TheSplashSaysItsTextsAtTheirPlaces) {
   EXPECT_EQ(splash.lblDank.BackColor, 0xE0E0E0);
 }
 
+TEST_F(Start, EveryLineOfTheSplashFitsItsPlace) {
+  auto& splash = the<frmIntro>();
+  splash.Show();
+  for (Label* label : {&splash.Label3, &splash.lblVersion, &splash.lblIntro1, &splash.lblIntro2,
+                       &splash.lblIntro3, &splash.lblIntro4, &splash.lblIntro5})
+    EXPECT_EQ(lines(*label).size(), 1u) << label->Caption.get();
+  EXPECT_LE(lines(splash.lblDank).size(), 2u);
+}
+
 TEST_F(Start, OneNameStandsBehindTheSplashsFrame) {
   auto& splash = the<frmIntro>();
   splash.Show();
@@ -162,7 +198,7 @@ TEST_F(Menu, ItsTextsAndItsPictureStandAtTheirPlaces) {
        27.75f},
       {menu.lblNaam, 8040, 720, 3615, 855, "    Dag vriendje.      Vul even je naam in.", 0x0000FF,
        18},
-      {menu.Label2, 8160, 2280, 3255, 495, "Begin en klik op :", 0x0000FF, menu.Label2.Font->Size},
+      {menu.Label2, 8160, 2280, 3255, 495, "Begin en klik op :", 0x0000FF, 0},
   };
   for (const auto& row : labels) {
     SCOPED_TRACE(row.text);
@@ -170,9 +206,23 @@ TEST_F(Menu, ItsTextsAndItsPictureStandAtTheirPlaces) {
     EXPECT_EQ(row.label.Caption, row.text);
     EXPECT_EQ(row.label.ForeColor, row.color);
     EXPECT_EQ(row.label.BackColor, menu.BackColor);
-    EXPECT_EQ(row.label.Font, (Font{"Arial", row.size, true}));
+    // No size: it is free.
+    const float size = row.size > 0 ? row.size : row.label.Font->Size;
+    EXPECT_EQ(row.label.Font, (Font{"Arial", size, true}));
   }
   expectPlace(menu.Image9, 120, 840, 7575, 7215);
+}
+
+TEST_F(Menu, ItsTextsFitTheirPlacesAndBreakAtTheirBlanks) {
+  using Lines = std::vector<std::string>;
+  EXPECT_EQ(lines(menu.lblReken), (Lines{"KRAS PRET : wat je ZELF maakt is KUNST"}));
+  EXPECT_EQ(lines(menu.lblNaam), (Lines{"Dag vriendje.", "Vul even je naam in."}));
+  EXPECT_EQ(lines(menu.Label2), (Lines{"Begin en klik op :"}));
+  EXPECT_EQ(lines(menu.cmdFantasie), (Lines{"Fantasie Kijken"}));
+  EXPECT_EQ(lines(menu.Command1), (Lines{"Hoe doe ik het ?"}));
+  EXPECT_EQ(lines(menu.cmdEinde), (Lines{"Stoppen"}));
+  EXPECT_EQ(lines(menu.cmdOlmwerk), (Lines{"INFO", "OLMWERK"}));
+  EXPECT_EQ(lines(menu.cmdInfo), (Lines{"INFO", "KRAS PRET"}));
 }
 
 TEST_F(Menu, TheNamesFieldIsCentredColouredAndEmpty) {
@@ -294,6 +344,14 @@ TEST_F(Farewell, ItsTextsStandAtTheirPlaces) {
   EXPECT_EQ(farewell.Label1.Caption,
             "Vond je het de moeite waard ?                  Fijn zo !                Bedankt voor "
             "je moeite en ...          tot een volgende keer !");
+}
+
+TEST_F(Farewell, ItsTextBreaksAtItsRunsOfBlanks) {
+  frmEinde& farewell = leave("Fien");
+  EXPECT_EQ(lines(farewell.Label1),
+            (std::vector<std::string>{"Vond je het de moeite waard ?", "Fijn zo !",
+                                      "Bedankt voor je moeite en ...", "tot een volgende keer !"}));
+  EXPECT_EQ(lines(farewell.Label2), std::vector<std::string>{"Bedankt,"});
 }
 
 TEST_F(Farewell, TheNameCannotBeTypedOver) {

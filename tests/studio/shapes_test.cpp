@@ -376,6 +376,11 @@ TEST_F(Shapes, TheSampleStaysAsItWasWhenTheDragIsOver) {
   sheet.ForeColor = Red;
   move(sheet, 350, 350);
   EXPECT_EQ(studio.Line1.BorderColor, Black);
+  click(studio.cmdRechthoek);
+  drag(sheet, 300, 300, 320, 310);
+  sheet.ForeColor = Red;
+  move(sheet, 350, 350);
+  EXPECT_EQ(studio.Shape2.BorderColor, Black);
 }
 
 TEST_F(Shapes, EveryMoveLeavesTheBrushTransparentInThePensColour) {
