@@ -48,3 +48,10 @@ void frmStart::cmdEinde_Click() {
   if (txtNaam.Text->empty()) farewell.txtNaam2.Text = "vriendje";
   Unload(*this);
 }
+
+void ToonMenuOfStop() {
+  if (isLoaded<frmStart>())
+    the<frmStart>().Show();
+  else
+    End();
+}

@@ -70,3 +70,8 @@ class frmStart : public surface::Form {
   void cmdTekenen2_Click();
   void cmdEinde_Click();
 };
+
+/// For when a close box has taken the last window away. The menu hides behind every other screen:
+/// it comes back, so that the child is never left with an invisible program. Without a menu the
+/// program ends.
+void ToonMenuOfStop();

@@ -360,3 +360,38 @@ TEST_F(Farewell, TheNameCannotBeTypedOver) {
   type("x");
   EXPECT_EQ(farewell.txtNaam2.Text, "Fien");
 }
+
+class TheLastWindow : public script::Stage {
+ protected:
+  TheLastWindow() { FormRegistry::instance().noWindowLeft = ToonMenuOfStop; }
+};
+
+TEST_F(TheLastWindow, ClosedBeforeAHiddenMenuBringsTheMenuBack) {
+  auto& menu = the<frmStart>();
+  menu.Show();
+  menu.txtNaam.Text = "Fien";
+  auto& other = showNew<frmIntro>();
+  menu.Hide();
+  closeBox(other);
+  EXPECT_TRUE(menu.shown());
+  EXPECT_EQ(menu.txtNaam.Text, "Fien");
+  EXPECT_FALSE(ended());
+}
+
+TEST_F(TheLastWindow, ClosedBesideAnotherWindowChangesNothing) {
+  auto& menu = the<frmStart>();
+  auto& other = showNew<frmIntro>();
+  showNew<frmIntro>();
+  closeBox(other);
+  EXPECT_FALSE(menu.shown());
+  EXPECT_FALSE(ended());
+}
+
+TEST_F(TheLastWindow, TheSplashOrTheFarewellClosedEndsTheProgram) {
+  the<frmIntro>().Show();
+  closeBox(the<frmIntro>());
+  EXPECT_TRUE(ended());
+  restart();
+  closeBox(showNew<frmEinde>());
+  EXPECT_TRUE(ended());
+}

@@ -222,6 +222,11 @@ TEST_F(Looks, AScreenReaderHearsTheCaptionOrElseTheTooltip) {
   EXPECT_EQ(spokenName(show.lblTekst), "Dag vriendje. Vul in.");
 }
 
+TEST_F(Looks, ASurfaceIsADrawingToAScreenReader) {
+  const auto* heard = QAccessible::queryAccessibleInterface(script::widgetOf(show.sheet));
+  EXPECT_EQ(heard->role(), QAccessible::Graphic);
+}
+
 TEST_F(Looks, ANameOfItsOwnGoesBeforeCaptionAndTooltip) {
   show.cmdRood.AccessibleName = "de rode knop";
   show.cmdRood.ToolTipText = "kies nu rood";
