@@ -138,6 +138,7 @@ TEST_F(SavingADrawing, ANoAndACancelWriteNothing) {
   click(studio.cmdSaveAs);
   EXPECT_TRUE(untouched());
   EXPECT_EQ(disk::names(folder()), std::vector<std::string>{"oud.bmp"});
+  EXPECT_EQ(studio.CommonDialog2.FileName, "") << "the name that was refused is kept";
 }
 
 TEST_F(SavingADrawing, AFolderCountsAsAnExistingNameAndIsNotWrittenOver) {
