@@ -238,7 +238,7 @@ void Monkey::moveSlider() {
   if (knob) knob->setValue(slider.Min + upTo(slider.Max - slider.Min + 10));
 }
 
-void Monkey::pickRow() { studio().cboStijl.picked(upTo(studio().cboStijl.ListCount())); }
+void Monkey::pickRow() { studio().cboStijl.picked(upTo(5)); }
 
 void Monkey::dragOnPalette() {
   const int with = button();
