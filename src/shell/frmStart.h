@@ -8,65 +8,64 @@ class frmStart : public surface::Form {
  public:
   frmStart();
 
-  surface::TextBox txtNaam{*this,
-                           {.Left = 8280,
-                            .Top = 1680,
-                            .Width = 3135,
-                            .Height = 495,
-                            .BackColor = 0xC0FFFF,
-                            .ForeColor = 0x800080,
-                            .Font = {"Arial", 15.75f, true},
-                            .MaxLength = 16,
-                            .Centred = true}};
-  surface::Label lblReken{*this,
-                          {.Left = 240,
-                           .Top = 0,
-                           .Width = 11415,
-                           .Height = 735,
-                           .Caption = "KRAS PRET : wat je ZELF maakt is KUNST",
-                           .BackColor = 0xC0FFC0,
-                           .ForeColor = 0xFF0000,
-                           .Font = {"Arial", 27.75f, true}}};
-  surface::Label lblNaam{*this,
-                         {.Left = 8040,
-                          .Top = 720,
-                          .Width = 3615,
-                          .Height = 855,
-                          .Caption = "    Dag vriendje.      Vul even je naam in.",
-                          .BackColor = 0xC0FFC0,
-                          .ForeColor = 0x0000FF,
+  TextBox txtNaam{*this,
+                  {.Left = 8280,
+                   .Top = 1680,
+                   .Width = 3135,
+                   .Height = 495,
+                   .BackColor = 0xC0FFFF,
+                   .ForeColor = 0x800080,
+                   .Font = {"Arial", 15.75f, true},
+                   .MaxLength = 16,
+                   .Centred = true}};
+  Label lblReken{*this,
+                 {.Left = 240,
+                  .Top = 0,
+                  .Width = 11415,
+                  .Height = 735,
+                  .Caption = "KRAS PRET : wat je ZELF maakt is KUNST",
+                  .BackColor = 0xC0FFC0,
+                  .ForeColor = 0xFF0000,
+                  .Font = {"Arial", 27.75f, true}}};
+  Label lblNaam{*this,
+                {.Left = 8040,
+                 .Top = 720,
+                 .Width = 3615,
+                 .Height = 855,
+                 .Caption = "    Dag vriendje.      Vul even je naam in.",
+                 .BackColor = 0xC0FFC0,
+                 .ForeColor = 0x0000FF,
+                 .Font = {"Arial", 18, true}}};
+  Label Label2{*this,
+               {.Left = 8160,
+                .Top = 2280,
+                .Width = 3255,
+                .Height = 495,
+                .Caption = "Begin en klik op :",
+                .BackColor = 0xC0FFC0,
+                .ForeColor = 0x0000FF,
+                .Font = {"Arial", 18, true}}};
+  CommandButton cmdTekenen1{*this, choice(2880, "Tekenen Klein", 0x00FFFF)};
+  CommandButton cmdFantasie{*this, choice(3600, "Fantasie Kijken", 0xFFFF00)};
+  CommandButton cmdKleurplaten{*this, choice(4320, "Kleurplaten", 0xFFC0FF)};
+  CommandButton Command1{*this, choice(5040, "Hoe doe ik het ?", 0xC0E0FF)};
+  CommandButton cmdTekenen2{*this, choice(5760, "Tekenen Groot", 0x00FF00)};
+  CommandButton cmdEinde{*this,
+                         {.Left = 8880,
+                          .Top = 6600,
+                          .Width = 1935,
+                          .Height = 735,
+                          .Caption = "Stoppen",
+                          .BackColor = 0xC0C0C0,
                           .Font = {"Arial", 18, true}}};
-  surface::Label Label2{*this,
-                        {.Left = 8160,
-                         .Top = 2280,
-                         .Width = 3255,
-                         .Height = 495,
-                         .Caption = "Begin en klik op :",
-                         .BackColor = 0xC0FFC0,
-                         .ForeColor = 0x0000FF,
-                         .Font = {"Arial", 18, true}}};
-  surface::CommandButton cmdTekenen1{*this, choice(2880, "Tekenen Klein", 0x00FFFF)};
-  surface::CommandButton cmdFantasie{*this, choice(3600, "Fantasie Kijken", 0xFFFF00)};
-  surface::CommandButton cmdKleurplaten{*this, choice(4320, "Kleurplaten", 0xFFC0FF)};
-  surface::CommandButton Command1{*this, choice(5040, "Hoe doe ik het ?", 0xC0E0FF)};
-  surface::CommandButton cmdTekenen2{*this, choice(5760, "Tekenen Groot", 0x00FF00)};
-  surface::CommandButton cmdEinde{*this,
-                                  {.Left = 8880,
-                                   .Top = 6600,
-                                   .Width = 1935,
-                                   .Height = 735,
-                                   .Caption = "Stoppen",
-                                   .BackColor = 0xC0C0C0,
-                                   .Font = {"Arial", 18, true}}};
-  surface::CommandButton cmdOlmwerk{*this, note(8280, " INFO &OLMWERK")};
-  surface::CommandButton cmdInfo{*this, note(10080, "    &INFO    KRAS PRET")};
-  surface::ImageControl Image9{
+  CommandButton cmdOlmwerk{*this, note(8280, " INFO &OLMWERK")};
+  CommandButton cmdInfo{*this, note(10080, "    &INFO    KRAS PRET")};
+  ImageControl Image9{
       *this, {.Left = 120, .Top = 840, .Width = 7575, .Height = 7215, .Picture = "welkom"}};
 
  private:
-  static surface::CommandButton::Design choice(float top, const char* caption,
-                                               surface::Color color);
-  static surface::CommandButton::Design note(float left, const char* caption);
+  static CommandButton::Design choice(float top, const char* caption, Color color);
+  static CommandButton::Design note(float left, const char* caption);
   void cmdTekenen2_Click();
   void cmdEinde_Click();
 };

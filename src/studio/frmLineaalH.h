@@ -7,8 +7,8 @@ class frmLineaalH : public surface::Form {
  public:
   frmLineaalH();
 
-  surface::LineControl Line1{*this, {.X1 = 0, .Y1 = 30, .X2 = 9165, .Y2 = 30}};
-  surface::LineControl Line2{*this, {.X1 = 0, .Y1 = 555, .X2 = 9165, .Y2 = 555}};
+  LineControl Line1{*this, {.X1 = 0, .Y1 = 30, .X2 = 9165, .Y2 = 30}};
+  LineControl Line2{*this, {.X1 = 0, .Y1 = 555, .X2 = 9165, .Y2 = 555}};
 
  private:
   void Form_Load();

@@ -7,8 +7,8 @@ class frmLineaalV : public surface::Form {
  public:
   frmLineaalV();
 
-  surface::LineControl Line1{*this, {.X1 = 30, .Y1 = 0, .X2 = 30, .Y2 = 8070}};
-  surface::LineControl Line2{*this, {.X1 = 540, .Y1 = 0, .X2 = 540, .Y2 = 8070}};
+  LineControl Line1{*this, {.X1 = 30, .Y1 = 0, .X2 = 30, .Y2 = 8070}};
+  LineControl Line2{*this, {.X1 = 540, .Y1 = 0, .X2 = 540, .Y2 = 8070}};
 
  private:
   void Form_Load();

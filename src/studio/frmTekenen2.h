@@ -13,7 +13,7 @@ class frmTekenen2 : public frmTekenen2_controls {
 
   // frmTekenen2.cpp: the frame
   void Form_Load();
-  void Form_MouseUp(const surface::Mouse& at);
+  void Form_MouseUp(const Mouse& at);
   void ClosePanels();
   void FirstTool();
   void ApplyTool();
@@ -24,7 +24,7 @@ class frmTekenen2 : public frmTekenen2_controls {
   // tools.cpp: the tool buttons and the panels
   void ChooseTool(std::int16_t tool);
   void ChooseToolClosingPanels(std::int16_t tool);
-  void OpenPanel(surface::Frame& panel, const char* message);
+  void OpenPanel(Frame& panel, const char* message);
   void cmdLijnen_Click();
   void cmdLineaal_Click();
   void Slider1_Scroll();
@@ -33,28 +33,28 @@ class frmTekenen2 : public frmTekenen2_controls {
   void picBorstel_Click(int number);
 
   // pointer.cpp: the three handlers of the sheet
-  void picBlad_MouseDown(const surface::Mouse& at);
-  void picBlad_MouseMove(const surface::Mouse& at);
-  void picBlad_MouseUp(const surface::Mouse& at);
+  void picBlad_MouseDown(const Mouse& at);
+  void picBlad_MouseMove(const Mouse& at);
+  void picBlad_MouseUp(const Mouse& at);
 
   // fills.cpp: what acts at the press
-  void Opvullen(const surface::Mouse& at);
-  void PatroonVullen(const surface::Mouse& at);
-  void KleurKiezen(const surface::Mouse& at);
+  void Opvullen(const Mouse& at);
+  void PatroonVullen(const Mouse& at);
+  void KleurKiezen(const Mouse& at);
 
   // strokes.cpp: line styles, spray, art line, stamps
-  void Lijnstijlen(const surface::Mouse& at);
-  void Spuiten(const surface::Mouse& at);
-  void KunstlijnBegin(const surface::Mouse& at);
-  void KunstlijnVolg(const surface::Mouse& at);
+  void Lijnstijlen(const Mouse& at);
+  void Spuiten(const Mouse& at);
+  void KunstlijnBegin(const Mouse& at);
+  void KunstlijnVolg(const Mouse& at);
   void StampAt(float X, float Y);
 
   // colours.cpp: palette, background, gradient swatches
-  void picPalet_MouseDown(const surface::Mouse& at);
-  void picPalet_MouseMove(const surface::Mouse& at);
-  void picPalet_MouseUp(const surface::Mouse& at);
+  void picPalet_MouseDown(const Mouse& at);
+  void picPalet_MouseMove(const Mouse& at);
+  void picPalet_MouseUp(const Mouse& at);
   void cmdPalet_Click();
-  void KiesVerloopkleur(surface::PictureBox& swatch);
+  void KiesVerloopkleur(PictureBox& swatch);
 
   // eraser.cpp
   void cmdGom_Click();
@@ -100,12 +100,12 @@ class frmTekenen2 : public frmTekenen2_controls {
   // pointer.cpp
   bool BeginGeldig() const { return BeginX != 0 && BeginY != 0; }
   void WisBegin();
-  void PotloodNeer(const surface::Mouse& at);
-  void PotloodVolg(const surface::Mouse& at);
-  void OvaalBegin(const surface::Mouse& at);
-  void OvaalVolg(const surface::Mouse& at);
+  void PotloodNeer(const Mouse& at);
+  void PotloodVolg(const Mouse& at);
+  void OvaalBegin(const Mouse& at);
+  void OvaalVolg(const Mouse& at);
   void OvaalEinde();
-  void GevuldeCirkel(const surface::Mouse& at);
+  void GevuldeCirkel(const Mouse& at);
   void ToonMonster();
 
   std::int16_t Gereedschap = 1;

@@ -121,16 +121,12 @@ void OptionButton::clicked() {
     Value = true;
 }
 
-ComboBox::ComboBox(Container& container, const Design& d)
-    : Control(container, {d.Left, d.Top, d.Width, ComboHeight}, d.Visible),
-      Font(*this, d.Font),
-      ListIndex(*this, d.ListIndex),
-      list_(d.List) {
-  ToolTipText.setQuietly(d.ToolTipText);
-}
+ListControl::ListControl(Container& container, const Place& place, bool visible,
+                         const std::vector<std::string>& rows, int index, const surface::Font& font)
+    : Control(container, place, visible), Font(*this, font), ListIndex(*this, index), rows_(rows) {}
 
-void ComboBox::selected(const int& former) {
-  if (ListIndex < -1 || ListIndex >= static_cast<int>(list_.size())) {
+void ListControl::selected(const int& former) {
+  if (ListIndex < -1 || ListIndex >= ListCount()) {
     ListIndex.setQuietly(former);
     throw RuntimeError(ErrorKind::BadPropertyValue, "Invalid property value");
   }
@@ -138,19 +134,36 @@ void ComboBox::selected(const int& former) {
   if (ListIndex != former) Click();
 }
 
-const std::string& ComboBox::Text() const {
+const std::string& ListControl::List(int row) const {
   static const std::string none;
-  return ListIndex < 0 ? none : list_[static_cast<std::size_t>(ListIndex)];
+  return row < 0 || row >= ListCount() ? none : rows_[static_cast<std::size_t>(row)];
 }
 
-void ComboBox::picked(int row) {
+void ListControl::AddItem(const std::string& text) {
+  rows_.push_back(text);
+  changed(Aspect::Look);
+}
+
+void ListControl::Clear() {
+  rows_.clear();
+  ListIndex.setQuietly(-1);
+  changed(Aspect::Look);
+}
+
+void ListControl::picked(int row) {
   ListIndex.setQuietly(row);
   Click();
 }
 
-void ComboBox::AddItem(const std::string& text) {
-  list_.push_back(text);
-  changed(Aspect::Look);
+ComboBox::ComboBox(Container& container, const Design& d)
+    : ListControl(container, {d.Left, d.Top, d.Width, ComboHeight}, d.Visible, d.List, d.ListIndex,
+                  d.Font) {
+  ToolTipText.setQuietly(d.ToolTipText);
+}
+
+ListBox::ListBox(Container& container, const Design& d)
+    : ListControl(container, {d.Left, d.Top, d.Width, d.Height}, d.Visible, d.List, -1, d.Font) {
+  ToolTipText.setQuietly(d.ToolTipText);
 }
 
 HScrollBar::HScrollBar(Container& container, const Design& d)

@@ -162,10 +162,37 @@ class OptionButton : public Control {
   void clicked();
 };
 
-/// A drop-down list; selecting another row fires Click, also by code.
-class ComboBox : public Control {
+/// A list of texts of which one may be selected; selecting another row fires Click, also by code.
+class ListControl : public Control {
   void selected(const int& former);
 
+ public:
+  Prop<surface::Font, &ListControl::lookChanged> Font;
+  /// -1 = none; beyond the list a BadPropertyValue error.
+  Prop<int, &ListControl::selected> ListIndex;
+  Event<> Click;
+
+  /// The selected row, empty if none.
+  const std::string& Text() const { return List(ListIndex); }
+  int ListCount() const { return static_cast<int>(rows_.size()); }
+  /// A row from 0; empty beyond the list.
+  const std::string& List(int row) const;
+  void AddItem(const std::string& text);
+  /// Empties the list; nothing is selected then.
+  void Clear();
+  /// From the widget: the user has picked a row, also the one that was selected already.
+  void picked(int row);
+
+ protected:
+  ListControl(Container& container, const Place& place, bool visible,
+              const std::vector<std::string>& rows, int index, const surface::Font& font);
+
+ private:
+  std::vector<std::string> rows_;
+};
+
+/// A list that drops down from the selected row.
+class ComboBox : public ListControl {
  public:
   struct Design {
     float Left = 0, Top = 0, Width = 0;
@@ -176,21 +203,19 @@ class ComboBox : public Control {
     bool Visible = true;
   };
   ComboBox(Container& container, const Design& design);
+};
 
-  Prop<surface::Font, &ComboBox::lookChanged> Font;
-  Prop<int, &ComboBox::selected>
-      ListIndex;  ///< -1 = none; beyond the list a BadPropertyValue error
-  Event<> Click;
-
-  /// The selected row, empty if none.
-  const std::string& Text() const;
-  const std::vector<std::string>& List() const { return list_; }
-  /// From the widget: the user has picked a row, also the one that was selected already.
-  void picked(int row);
-  void AddItem(const std::string& text);
-
- private:
-  std::vector<std::string> list_;
+/// A list that shows all its rows, scrolled as needed.
+class ListBox : public ListControl {
+ public:
+  struct Design {
+    float Left = 0, Top = 0, Width = 0, Height = 0;
+    std::vector<std::string> List = {};
+    std::string ToolTipText = {};
+    surface::Font Font = {};
+    bool Visible = true;
+  };
+  ListBox(Container& container, const Design& design);
 };
 
 class HScrollBar : public Control {

@@ -2,6 +2,7 @@
 // use, new instances, showing, hiding, unloading.
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <memory>
 #include <string>
@@ -14,6 +15,26 @@
 #include "surface/event.h"
 
 namespace surface {
+
+class CheckBox;
+class ComboBox;
+class CommandButton;
+class CommonDialog;
+class Frame;
+class HScrollBar;
+class ImageControl;
+class Label;
+class LineControl;
+class ListBox;
+class OptionButton;
+class PictureBox;
+class ProgressBar;
+class ShapeControl;
+class Slider;
+class TextBox;
+class TimerControl;
+template <class Kind, std::size_t Count>
+class ControlArray;
 
 /// A form's window, made by the toolkit layer at the first Show.
 class FormPeer {
@@ -29,6 +50,31 @@ class FormPeer {
 };
 
 class Form : public DrawingSurface, public Container {
+ public:
+  // The kinds of control by their own names, so that a form's declarations read as its table.
+  using CheckBox = surface::CheckBox;
+  using ComboBox = surface::ComboBox;
+  using CommandButton = surface::CommandButton;
+  using CommonDialog = surface::CommonDialog;
+  using Frame = surface::Frame;
+  using HScrollBar = surface::HScrollBar;
+  using ImageControl = surface::ImageControl;
+  using Label = surface::Label;
+  using LineControl = surface::LineControl;
+  using ListBox = surface::ListBox;
+  using OptionButton = surface::OptionButton;
+  using PictureBox = surface::PictureBox;
+  using ProgressBar = surface::ProgressBar;
+  using ShapeControl = surface::ShapeControl;
+  using Slider = surface::Slider;
+  using TextBox = surface::TextBox;
+  using TimerControl = surface::TimerControl;
+  template <class Kind, std::size_t Count>
+  using ControlArray = surface::ControlArray<Kind, Count>;
+  using Color = surface::Color;
+  using Mouse = surface::Mouse;
+
+ private:
   void windowChanged() {
     if (peer_) peer_->update();
   }

@@ -45,7 +45,9 @@ TEST_F(LineStyles, ThePanelHoldsItsControls) {
   EXPECT_EQ(studio.Slider1.Max, 20);
   const std::vector<std::string> styles = {"Doorlopend", "Stippellijn", "Kleurrijk", "Kraaltjes",
                                            "Ritssluiting"};
-  EXPECT_EQ(studio.cboStijl.List(), styles);
+  ASSERT_EQ(studio.cboStijl.ListCount(), static_cast<int>(styles.size()));
+  for (int row = 0; row < studio.cboStijl.ListCount(); ++row)
+    EXPECT_EQ(studio.cboStijl.List(row), styles[static_cast<std::size_t>(row)]);
   EXPECT_EQ(studio.Line2.X1.get(), 1320);
   EXPECT_EQ(studio.Line2.X2.get(), 1560);
   EXPECT_EQ(studio.Line2.Y1.get(), 960);

@@ -2,6 +2,7 @@
 #include "surface/controls.h"
 
 #include <QComboBox>
+#include <QListWidget>
 #include <QPlainTextEdit>
 #include <QSlider>
 #include <QTest>
@@ -37,6 +38,8 @@ class Box : public Form {
                      .Width = 1500,
                      .List = {"rood", "groen", "blauw"},
                      .ListIndex = 0}};
+  ListBox lstRijen{
+      *this, {.Left = 5400, .Top = 150, .Width = 1500, .Height = 1200, .List = {"een", "twee"}}};
   Slider Slider1{*this, {.Left = 150, .Top = 2400, .Width = 1500, .Min = 1, .Max = 20, .Value = 5}};
   HScrollBar Scroll1{
       *this, {.Left = 150, .Top = 2850, .Width = 1500, .Height = 300, .Max = 100, .Value = 10}};
@@ -200,12 +203,39 @@ TEST_F(Controls, ARowBeyondTheListIsRefused) {
 
 TEST_F(Controls, ARowAddedLaterCanBePickedAndKeepsTheSelection) {
   box.cboKleur.AddItem("geel");
-  EXPECT_EQ(box.cboKleur.List().back(), "geel");
+  EXPECT_EQ(box.cboKleur.List(3), "geel");
   auto* list = qobject_cast<QComboBox*>(script::widgetOf(box.cboKleur));
   EXPECT_EQ(list->count(), 4);
   EXPECT_EQ(list->currentText(), "rood");
   box.cboKleur.ListIndex = 3;
   EXPECT_EQ(list->currentText(), "geel");
+}
+
+TEST_F(Controls, AListBoxShowsItsRowsAndFiresClickForTheOnePicked) {
+  box.lstRijen.Click = count;
+  auto* list = qobject_cast<QListWidget*>(script::widgetOf(box.lstRijen));
+  ASSERT_NE(list, nullptr);
+  box.lstRijen.AddItem("drie");
+  EXPECT_EQ(list->count(), 3);
+  EXPECT_EQ(box.lstRijen.ListIndex, -1);
+  EXPECT_EQ(box.lstRijen.Text(), "");
+  EXPECT_EQ(fired, 0);
+  list->setCurrentRow(2);
+  EXPECT_EQ(box.lstRijen.Text(), "drie");
+  EXPECT_EQ(fired, 1);
+  box.lstRijen.ListIndex = 0;
+  EXPECT_EQ(list->currentRow(), 0);
+  EXPECT_EQ(fired, 2);
+}
+
+TEST_F(Controls, AClearedListBoxHasNoRowsAndReadsAsEmptyTexts) {
+  box.lstRijen.ListIndex = 1;
+  box.lstRijen.Clear();
+  EXPECT_EQ(box.lstRijen.ListCount(), 0);
+  EXPECT_EQ(box.lstRijen.ListIndex, -1);
+  EXPECT_EQ(box.lstRijen.List(0), "");
+  EXPECT_EQ(box.lstRijen.List(-1), "");
+  EXPECT_ERROR(BadPropertyValue, box.lstRijen.ListIndex = 0);
 }
 
 TEST_F(Controls, OnlyTheChildsOwnMoveOfASliderFiresScroll) {

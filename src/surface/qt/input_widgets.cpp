@@ -114,10 +114,30 @@ void ComboWidget::sync(Aspect aspect) {
   if (aspect == Aspect::Look) {
     setFont(toQFont(control->Font));
     clear();
-    for (const std::string& row : control->List()) addItem(QString::fromStdString(row));
+    for (int row = 0; row < control->ListCount(); ++row)
+      addItem(QString::fromStdString(control->List(row)));
     setCurrentIndex(control->ListIndex);
   }
   if (aspect == Aspect::Value) setCurrentIndex(control->ListIndex);
+  applyCommon(*this, *control, aspect);
+}
+
+ListWidget::ListWidget(ListBox& owner, QWidget& parent) : QListWidget(&parent), control(&owner) {
+  QObject::connect(this, &QListWidget::currentRowChanged, this, [this](int row) {
+    if (control) dispatch([&] { control->picked(row); });
+  });
+}
+
+void ListWidget::sync(Aspect aspect) {
+  const QSignalBlocker quiet(this);
+  if (aspect == Aspect::Look) {
+    setFont(toQFont(control->Font));
+    clear();
+    for (int row = 0; row < control->ListCount(); ++row)
+      addItem(QString::fromStdString(control->List(row)));
+    setCurrentRow(control->ListIndex);
+  }
+  if (aspect == Aspect::Value) setCurrentRow(control->ListIndex);
   applyCommon(*this, *control, aspect);
 }
 

@@ -5,6 +5,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QScrollBar>
@@ -60,6 +61,14 @@ class ComboWidget : public QComboBox {
   void sync(Aspect aspect);
 
   ComboBox* control;
+};
+
+class ListWidget : public QListWidget {
+ public:
+  ListWidget(ListBox& owner, QWidget& parent);
+  void sync(Aspect aspect);
+
+  ListBox* control;
 };
 
 class SliderWidget : public QSlider {

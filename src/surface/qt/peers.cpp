@@ -44,6 +44,7 @@ std::unique_ptr<Peer> makePeer(Control& control, QWidget& parent) {
       (made = tryMake<CheckBox, CheckWidget>(control, parent)) ||
       (made = tryMake<OptionButton, OptionWidget>(control, parent)) ||
       (made = tryMake<ComboBox, ComboWidget>(control, parent)) ||
+      (made = tryMake<ListBox, ListWidget>(control, parent)) ||
       (made = tryMake<Slider, SliderWidget>(control, parent)) ||
       (made = tryMake<HScrollBar, ScrollWidget>(control, parent));
   if (!made) return made;
