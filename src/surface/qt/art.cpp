@@ -59,9 +59,11 @@ QCursor artCursor(const std::string& name) {
       key, pixmap.isNull() ? QCursor(Qt::CrossCursor) : QCursor(pixmap, tip.x(), tip.y()));
 }
 
-QIcon windowIcon() {
+QIcon programIcon() {
   QIcon icon;
-  for (int size : {16, 24, 32, 48, 64, 128, 256, 512}) {
+  // A window manager asks for no more; the larger ones are for the desktop, and decoding them would
+  // delay every window.
+  for (int size : {16, 24, 32, 48, 64, 128}) {
     const QString path = QString(":/art/pictogram%1.png").arg(size);
     if (QFile::exists(path)) icon.addFile(path, QSize(size, size));
   }

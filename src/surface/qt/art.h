@@ -17,7 +17,7 @@ QPixmap artPixmap(const std::string& name);
 Picture artPicture(const std::string& name);
 /// A cursor with its hot spot; the cross if there is none of that name.
 QCursor artCursor(const std::string& name);
-/// The window icon in all its sizes.
-QIcon windowIcon();
+/// The icon of the program's windows.
+QIcon programIcon();
 
 }  // namespace surface::qt

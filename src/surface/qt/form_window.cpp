@@ -7,7 +7,6 @@
 #include <QScreen>
 #include <QWindow>
 
-#include "surface/qt/art.h"
 #include "surface/qt/peers.h"
 #include "surface/qt/pointer.h"
 #include "surface/qt/surface_widget.h"
@@ -67,7 +66,6 @@ std::unique_ptr<FormPeer> makeFormPeer(Form& form) {
 
 FormWindow::FormWindow(Form& owner) : QWidget(nullptr, flagsOf(owner)), form(&owner) {
   setAttribute(Qt::WA_OpaquePaintEvent);
-  setWindowIcon(windowIcon());
   const raster::Rect inner = owner.innerPixels();
   if (owner.BorderStyle == Form::Border::Sizable)
     resize(inner.width(), inner.height());

@@ -82,6 +82,7 @@ void install() {
   palette.setColor(QPalette::ToolTipBase, QColor(0xFF, 0xFF, 0xE1));
   palette.setColor(QPalette::ToolTipText, Qt::black);
   QApplication::setPalette(palette);
+  QApplication::setWindowIcon(programIcon());
   QApplication::setQuitOnLastWindowClosed(false);
   installDutch();
   installSurfaceAccessibility();
