@@ -96,6 +96,9 @@ class Screen:
         with os.fdopen(reading, "rb") as stream:
             self.env["DISPLAY"] = ":" + self.first_line(stream, "Xvfb")
         self.framebuffer = self.folder / "Xvfb_screen0"
+        # A keyboard with accents of its own: xdotool lends a key to any letter that has none, and takes it back too soon for a
+        # busy program.
+        subprocess.run(["setxkbmap", "be"], env=self.env, check=True)
         self.helper(["openbox", "--sm-disable"])
         until(self._managed, "window manager")
 
