@@ -1,0 +1,114 @@
+"""Another size for the sheet, typed in centimetres as the system writes numbers, and a new sheet."""
+import unittest
+from unittest import mock
+
+import driver
+import kraspret
+import pixels
+import studio
+from kraspret import BLACK, SHEET
+from studio import Studio, block
+
+QUESTION = "Nieuwe tekening met aangepast formaat"
+WIDTH, HEIGHT = "Afmetingen van de tekening : breedte wijzigen", "Afmetingen van de tekening : hoogte wijzigen"
+
+
+def in_pixels(centimetres):
+    return round(centimetres / 2.54 * 96)
+
+
+class Sheet(Studio):
+    def begin_in(self, language):
+        """The studio on a system of this language."""
+        with mock.patch.dict(self.desktop.env, LC_ALL=language, LANG=language):
+            self.program = self.start()
+        self.sheet = self.program.open_studio()
+
+    def setUp(self):
+        pass
+
+    def tearDown(self):
+        pass
+
+    def answer(self, title, text):
+        """Answers a question for a number; None cancels it. Gives what stood in the field."""
+        self.program.wait_dialog(title)
+        field = driver.until(lambda: next((c for c in self.program.controls() if c.role == "text" and c.has("FOCUSED")), None),
+                             "field with the focus")
+        offered = field.text
+        if text is None:
+            self.desktop.key("Escape")
+        else:
+            self.desktop.key("ctrl+a", "Delete")
+            self.desktop.type(text)
+            driver.until(lambda: field.text == text, f"{text!r} in the field")
+            self.desktop.key("Return")
+        driver.until(lambda: not self.program.shows(title), f"end of {title!r}")
+        return offered
+
+    def resize(self, width, height):
+        """Goes through the questions for another size; gives the two numbers that were offered."""
+        self.click(studio.RESIZE)
+        self.program.answer(QUESTION, "Nee")
+        offered = self.answer(WIDTH, width), self.answer(HEIGHT, height)
+        self.program.wait_no_dialog()
+        self.program.wait_says("wijzig hiermee het FORMAAT van je tekenBLAD")
+        return offered
+
+    def test_a_dutch_system_shows_and_wants_a_comma(self):
+        self.begin_in("nl_NL.UTF-8")
+        self.box(10, 10, 30, 30)
+        self.stroke((600, 500), (610, 510))
+        width, height = self.resize("10,5", "8")
+        self.assertRegex(width, r"^16,3\d+$")
+        self.assertRegex(height, r"^14,2\d+$")
+        size = in_pixels(10.5), in_pixels(8)
+        self.assertEqual(self.saved(size).others(kraspret.WHITE), block(10, 10, 30, 30))
+
+        for refused in (("10.5", "8"), ("tien", "8"), ("9", "acht"), ("9", ""), ("9", None), (None, "9"), ("9", "40000")):
+            with self.subTest(refused):
+                self.resize(*refused)
+                self.saved(size)
+        self.resize("9", "-3")
+        self.saved((in_pixels(9), size[1]))
+
+        self.click(studio.NEW)
+        self.program.wait_says("een NIEUW tekenblad met dezelfde grootte openen")
+        self.assertEqual(self.painted(), {})
+
+    def test_an_english_system_wants_a_point_and_a_larger_sheet_grows_white(self):
+        self.begin_in("en_GB.UTF-8")
+        self.box(10, 10, 30, 30)
+        width, _ = self.resize("17.25", "15")
+        self.assertRegex(width, r"^16\.3\d+$")
+        picture = self.saved((in_pixels(17.25), in_pixels(15)))
+        self.assertEqual({at: picture.at(*at) for at in picture.others(kraspret.WHITE)},
+                         dict.fromkeys(block(10, 10, 30, 30), BLACK))
+
+    def test_the_numbers_offered_keep_the_width_and_round_the_height(self):
+        self.begin_in("nl_NL.UTF-8")
+        self.click(studio.RESIZE)
+        self.program.answer(QUESTION, "Nee")
+        for title in (WIDTH, HEIGHT):
+            self.program.wait_dialog(title)
+            self.desktop.key("Return")
+            driver.until(lambda: not self.program.shows(title), f"end of {title!r}")
+        self.saved((SHEET[0], in_pixels(14)))
+
+    def test_a_yes_saves_the_drawing_before_the_size_is_asked(self):
+        self.begin_in("nl_NL.UTF-8")
+        self.box(10, 10, 30, 30)
+        self.click(studio.RESIZE)
+        text = self.program.answer(QUESTION, "Ja")
+        self.assertIn("Je gaat een NIEUWE tekening met een ANDER FORMAAT maken.", text)
+        self.assertIn("Wil je de huidige tekening opslaan ?", text)
+        self.program.answer_file_dialog(self.path("eerst.bmp"))
+        self.answer(WIDTH, "5")
+        self.answer(HEIGHT, "5")
+        picture = pixels.read_bmp(self.path("eerst.bmp"))
+        self.assertEqual((picture.width, picture.height), SHEET)
+        self.saved((in_pixels(5), in_pixels(5)))
+
+
+if __name__ == "__main__":
+    unittest.main()
