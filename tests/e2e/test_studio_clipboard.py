@@ -1,5 +1,7 @@
 """Cut, copy and paste, also to and from another program."""
+import pathlib
 import subprocess
+import sys
 import unittest
 
 import driver
@@ -8,6 +10,8 @@ import screen
 import studio
 from kraspret import BLACK, SHEET, WHITE
 from studio import RED, Studio, block, span
+
+MANAGER = pathlib.Path(__file__).with_name("clipboard_manager.py")
 
 
 class Clipboard(Studio):
@@ -18,7 +22,10 @@ class Clipboard(Studio):
     def tearDown(self):
         for process in self.neighbours:
             driver.stop(process)
-        super().tearDown()
+        if self.program.process.poll() is None:
+            super().tearDown()
+        else:
+            type(self).program = None
 
     def offered(self):
         """What another program can get: the kinds of contents that the clipboard has."""
@@ -86,6 +93,30 @@ class Clipboard(Studio):
         self.assertEqual(self.painted(), {})
         self.click(studio.PASTE)
         self.assertEqual(self.painted(), dict.fromkeys(span(100, 150, 100), BLACK))
+
+    def test_a_copy_survives_the_end_of_the_program_where_the_desktop_keeps_clipboards(self):
+        manager = subprocess.Popen([sys.executable, str(MANAGER)], env=self.desktop.env, stdin=subprocess.DEVNULL,
+                                   stdout=subprocess.PIPE, preexec_fn=screen.die_with_parent)
+        self.addCleanup(manager.stdout.close)
+        self.neighbours.append(manager)
+        self.assertEqual(self.desktop.first_line(manager.stdout, "clipboard manager"), "ready")
+        driver.stop(self.program.process)
+        leaving = self.start()
+        leaving.open_studio()
+        leaving.choose("filled box")
+        colour = leaving.pick(RED)
+        leaving.sheet().drag((100, 100), (140, 130))
+        leaving.control(studio.COPY).click()
+        leaving.leave_studio()
+        leaving.quit()
+        self.assertEqual(leaving.wait_exit(), 0)
+
+        staying = self.start()
+        staying.open_studio()
+        staying.control(studio.PASTE).click()
+        staying.wait_pixel(120, 110, colour)
+        picture = staying.save(self.path("geplakt.bmp"))
+        self.assertEqual({at: picture.at(*at) for at in picture.others(WHITE)}, dict.fromkeys(block(100, 100, 140, 130), colour))
 
 
 if __name__ == "__main__":
