@@ -179,6 +179,14 @@ class Screen:
         place = dict(line.split("=") for line in found.split() if "=" in line)
         return tuple(int(place[name]) for name in ("X", "Y", "WIDTH", "HEIGHT")) if "HEIGHT" in place else None
 
+    def wait_icon(self, window, size):
+        """Waits until a window has an icon of that many pixels a side."""
+        def has_icon():
+            shown = subprocess.run(["xprop", "-id", str(window), "_NET_WM_ICON"], env=self.env, stdin=subprocess.DEVNULL,
+                                   stdout=subprocess.PIPE, timeout=60, check=False).stdout
+            return b"Icon (%d x %d)" % (size, size) in shown
+        until(has_icon, f"an icon of {size} pixels")
+
     def close_window(self, window):
         """Closes a window as its close box does, by the window manager's own key."""
         self._xdotool("windowactivate", "--sync", window, "key", "--clearmodifiers", "alt+F4")

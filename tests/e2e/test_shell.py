@@ -46,6 +46,12 @@ class Shell(cases.Case):
         self.assertGreater(stayed, 2.0)
         self.assertLess(stayed, 3.5 + SLACK)
 
+    def test_the_menus_window_has_the_programs_icon(self):
+        program = self.start()
+        window = self.desktop.windows(MENU, program.process.pid)[0]
+        # A window manager gives a window without an icon one of its own, of another size.
+        self.desktop.wait_icon(window, 16)
+
     def test_a_child_without_a_name_is_thanked_as_friend(self):
         program = self.start()
         program.quit()

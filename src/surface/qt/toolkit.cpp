@@ -82,7 +82,6 @@ void install() {
   palette.setColor(QPalette::ToolTipBase, QColor(0xFF, 0xFF, 0xE1));
   palette.setColor(QPalette::ToolTipText, Qt::black);
   QApplication::setPalette(palette);
-  QApplication::setWindowIcon(programIcon());
   QApplication::setQuitOnLastWindowClosed(false);
   installDutch();
   installSurfaceAccessibility();
@@ -118,6 +117,8 @@ int run(int argc, char** argv, const std::function<void()>& start) {
   QApplication application(onlyName, argv);
   install();
   QTimer::singleShot(0, [&start] { dispatch(start); });
+  // Decoding the icon would hold the first window up; a tenth of a second later nobody waits.
+  QTimer::singleShot(100, [] { QApplication::setWindowIcon(programIcon()); });
   const int status = QApplication::exec();
   FormRegistry::instance().clear();
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
