@@ -5,13 +5,16 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QColorDialog>
+#include <QDir>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QStandardPaths>
+#include <QTreeView>
 
 #include "surface/dialogs.h"
 #include "surface/dispatch.h"
@@ -33,10 +36,36 @@ QStringList filtersOf(const std::string& filter) {
   return rows;
 }
 
-// Where the child was last, at first among the pictures.
+// Where the child was last, at first among the pictures. The last part of a folder that is not
+// there would be taken for a file's name.
 QString& folder() {
-  static QString last = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+  static QString last = [] {
+    const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+    return QDir(pictures).exists() ? pictures : QDir::homePath();
+  }();
   return last;
+}
+
+// The flag of a colour dialog without the part in which own colours are mixed.
+constexpr int ReadyColorsOnly = 4;
+
+// The toolkit has no option for this, but the parts are the dialog's own children and told by their
+// class; the two buttons among them serve mixing only.
+void hideMixing(QColorDialog& dialog) {
+  for (QWidget* part : dialog.findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+    const QByteArray kind = part->metaObject()->className();
+    if (kind.endsWith("QColorPicker") || kind.endsWith("QColorLuminancePicker") ||
+        kind.endsWith("QColorShower") || kind == "QPushButton")
+      part->hide();
+  }
+}
+
+// Room for a whole date; the name takes what is left.
+void widenColumns(QFileDialog& dialog) {
+  auto* files = dialog.findChild<QTreeView*>();
+  if (!files) return;
+  files->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  files->header()->setSectionResizeMode(0, QHeaderView::Stretch);
 }
 
 QWidget* owner() { return QApplication::activeWindow(); }
@@ -93,16 +122,18 @@ std::optional<std::string> fileDialog(const FileRequest& request) {
   dialog.setLabelText(QFileDialog::LookIn, "Map:");
   dialog.setLabelText(QFileDialog::FileName, "Bestands&naam:");
   dialog.setLabelText(QFileDialog::FileType, "Soort bestand:");
+  widenColumns(dialog);
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
   folder() = dialog.directory().absolutePath();
   return dialog.selectedFiles().first().toStdString();
 }
 
-std::optional<Color> colorDialog(Color initial, int) {
+std::optional<Color> colorDialog(Color initial, int flags) {
   showPending();
   QColorDialog dialog(toQColor(initial), owner());
   dialog.setWindowTitle("Kleur");
   dialog.setOption(QColorDialog::DontUseNativeDialog);
+  if (flags & ReadyColorsOnly) hideMixing(dialog);
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
   return toColor(dialog.currentColor().rgb());
 }
