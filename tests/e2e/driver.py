@@ -62,9 +62,9 @@ class Control:
     def click(self):
         self.desktop.click(*self.middle)
 
-    def drag(self, *points, button=1):
+    def drag(self, *points, button=1, steps=6):
         """Draws through the points, which lie inside the control."""
-        self.desktop.drag(*(self.at(*p) for p in points), button=button)
+        self.desktop.drag(*(self.at(*p) for p in points), button=button, steps=steps)
 
 
 class Desktop(Screen):

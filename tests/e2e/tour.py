@@ -10,6 +10,7 @@ import kraspret
 NAME = "Emma"
 SKY, SUN, SAND, ORANGE, BROWN = (190, 230, 255), (255, 230, 60), (255, 225, 160), (255, 140, 20), (110, 60, 10)
 RED, GREEN, LEAF = (215, 30, 30), (80, 170, 50), (20, 90, 20)
+WHITE, PINK = (255, 255, 255), (255, 130, 200)
 
 
 class Tour:
@@ -75,6 +76,7 @@ class Tour:
         program, sheet = self.program, self.program.sheet()
         self.shoot("studio")
         self.scene(program, sheet)
+        self.finery(program, sheet)
         self.desktop.move(*sheet.at(560, 500))
         self.shoot("drawing")
         saved = self.folder / "drawing.bmp"
@@ -82,7 +84,7 @@ class Tour:
         print(f"  {saved}")
 
     def scene(self, program, sheet):
-        """A house with a garden, the sun and a bird: each tool has its part in it."""
+        """A house with a garden, the sun and a bird: every shape tool has its part in it."""
         def tool(name, colour=None):
             program.choose(name)
             if colour:
@@ -137,6 +139,36 @@ class Tour:
         tool("pencil", LEAF)
         for x in range(20, 600, 40):
             sheet.drag((x, 470), (x + 4, 455), (x + 9, 471), (x + 14, 452), (x + 18, 470))
+
+
+    def finery(self, program, sheet):
+        """Roof tiles, smoke, a cloud, a colourful bow and a garden of stars: what only a painter's tools can do."""
+        def click(*names):
+            for name in names:
+                program.control(name).click()
+
+        click("het menu OPVULLEN")
+        program.pick(ORANGE)
+        click("+++++++++")
+        self.desktop.move(*sheet.at(240, 205))  # on its way the pointer takes the colour along
+        self.desktop.click(*sheet.at(246, 206))
+        click("gommetje om foutjes te verbeteren")
+        sheet.drag((309, 163), (314, 152), (306, 142), (316, 130), (308, 118), (320, 104), steps=3)
+        program.choose("spray")
+        program.pick(WHITE)
+        for y in (38, 46, 54):
+            sheet.drag((200, y), (330, y), steps=26)
+        program.choose("art line")
+        sheet.drag(*((385 + 210 * n / 8, 250 - 4 * n * (8 - n)) for n in range(9)), steps=3)
+        for stamp, colour, places in (
+                ("STERRETJES", SUN, ((40, 500), (120, 512), (210, 496), (300, 515), (395, 498), (480, 514), (570, 500))),
+                ("KRUISKOPJES IN", RED, ((80, 508), (165, 500), (255, 510), (345, 500), (440, 508), (525, 502))),
+                ("KRUISKOPJES UIT", PINK, ((20, 515), (100, 490), (190, 518), (280, 492), (370, 516), (460, 490), (548, 517)))):
+            click("het menu BORSTELSTREKEN")
+            program.pick(colour)
+            click(stamp)
+            for place in places:
+                self.desktop.click(*sheet.at(*place))
 
 
 def main(program, folder, *words):
