@@ -12,7 +12,6 @@
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPushButton>
-#include <QRegularExpression>
 #include <QStandardPaths>
 #include <QTreeView>
 
@@ -29,9 +28,9 @@ QStringList filtersOf(const std::string& filter) {
   const QStringList fields = QString::fromStdString(filter).split('|');
   QStringList rows;
   for (int i = 0; i + 1 < fields.size(); i += 2) {
-    const QString pattern =
-        fields[i + 1] == "*.*" ? "*" : fields[i + 1] + ' ' + fields[i + 1].toUpper();
-    rows += QString(fields[i]).remove(QRegularExpression(R"( *\(.*\))")) + " (" + pattern + ")";
+    // The dialog takes the pattern from between the brackets, whatever its case.
+    const QString pattern = fields[i + 1] == "*.*" ? "*" : fields[i + 1];
+    rows += fields[i].endsWith(')') ? fields[i] : fields[i] + " (" + pattern + ")";
   }
   return rows;
 }

@@ -23,7 +23,9 @@ void applyColors(QWidget& widget, Color back, Color fore) {
 TextWidget::TextWidget(TextBox& owner, QWidget& parent) : QLineEdit(&parent), control(&owner) {
   if (owner.MaxLength > 0) setMaxLength(owner.MaxLength);
   setFrame(owner.Border);
-  setAlignment(owner.Centred ? Qt::AlignCenter : Qt::AlignLeft);
+  // A text without a border stands as high as a label beside it.
+  setAlignment((owner.Centred ? Qt::AlignHCenter : Qt::AlignLeft) |
+               (owner.Border ? Qt::AlignVCenter : Qt::AlignTop));
   QObject::connect(this, &QLineEdit::textEdited, this, [this](const QString& text) {
     if (control) dispatch([&] { control->typed(text.toStdString()); });
   });
