@@ -136,17 +136,24 @@ inline void draw(Bitmap& bitmap, int x1, int y1, int x2, int y2, Plot plot) {
 template <bool kFetch>
 inline void copySteps(Bitmap& bitmap, Pixel color, const Course& course, int x, int y) {
   const std::ptrdiff_t stride = bitmap.width();
-  const std::ptrdiff_t along = course.along(stride), aside = course.aside(stride);
-  Pixel* base = bitmap.row(y) + x;
-  Wide height = course.start;
+  const std::ptrdiff_t along = course.along(stride), both = along + course.aside(stride);
+  Pixel* p = bitmap.row(y) + x;
+  // A diagonal steps aside always, which no fraction can say.
+  if (course.slope >= kOne) {
+    for (int count = course.length; count > 0; --count, p += both) *p = color;
+    return;
+  }
+  // The fraction of the height fills all bits, so that its carry is the step aside.
+  constexpr int kShift = 64 - kBits;
+  const auto slope = static_cast<std::uint64_t>(course.slope) << kShift;
+  std::uint64_t fraction = static_cast<std::uint64_t>(course.start) << kShift;
   for (int count = course.length; count > 0; --count) {
-    Pixel* const p = base + (height >> kBits) * aside;
     // A steep line meets another line of the cache with every pixel. Stores wait for each other,
     // but the fetches that they need may overtake.
     if constexpr (kFetch) __builtin_prefetch(p, 1);
     *p = color;
-    base += along;
-    height += course.slope;
+    fraction += slope;
+    p += fraction < slope ? both : along;
   }
 }
 
