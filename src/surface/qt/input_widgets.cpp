@@ -2,6 +2,7 @@
 // itself goes to the widget silently.
 #include "surface/qt/input_widgets.h"
 
+#include <QPainter>
 #include <QSignalBlocker>
 
 #include "surface/qt/text_layout.h"
@@ -103,6 +104,36 @@ void OptionWidget::sync(Aspect aspect) {
   }
   if (aspect == Aspect::Value) setChecked(control->Value);
   applyCommon(*this, *control, aspect, spoken(control->Caption));
+}
+
+// The toolkit's own circle is as high as the rows of the narrow panels, so that one would touch the
+// next.
+void OptionWidget::paintEvent(QPaintEvent*) {
+  if (!control) return;
+  constexpr int Circle = 11, TextLeft = 17;
+  QPainter painter(this);
+  // Behind the circle and the letters only: the lowest option of a panel reaches over its frame's
+  // line.
+  painter.fillRect(rect().adjusted(0, 2, 0, -2), toQColor(control->BackColor));
+  const QRectF ring(2.5, (height() - Circle) / 2 + 0.5, Circle, Circle);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QColor(0x60, 0x60, 0x60));
+  painter.setBrush(isDown() ? QColor(0xD0, 0xD0, 0xD0) : QColor(Qt::white));
+  painter.drawEllipse(ring);
+  if (isChecked()) {
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Qt::black);
+    painter.drawEllipse(ring.adjusted(3, 3, -3, -3));
+  }
+  painter.setRenderHint(QPainter::Antialiasing, false);
+  painter.setPen(isEnabled() ? Qt::black : QColor(0x80, 0x80, 0x80));
+  const QRect place = rect().adjusted(TextLeft, 0, 0, 0);
+  painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextHideMnemonic, text());
+  if (hasFocus()) {
+    painter.setPen(QPen(QColor(0, 0, 0, 0xA0), 1, Qt::DotLine));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(place.adjusted(-2, 0, -1, -1));
+  }
 }
 
 ComboWidget::ComboWidget(ComboBox& owner, QWidget& parent) : QComboBox(&parent), control(&owner) {

@@ -51,6 +51,7 @@ class OptionWidget : public QRadioButton {
   OptionButton* control;
 
  protected:
+  void paintEvent(QPaintEvent*) override;
   // All of its place takes the click, not only the letters.
   bool hitButton(const QPoint& at) const override { return rect().contains(at); }
 };
