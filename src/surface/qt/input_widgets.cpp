@@ -115,7 +115,9 @@ void OptionWidget::paintEvent(QPaintEvent*) {
   // Behind the circle and the letters only: the lowest option of a panel reaches over its frame's
   // line.
   painter.fillRect(rect().adjusted(0, 2, 0, -2), toQColor(control->BackColor));
-  const QRectF ring(2.5, (height() - Circle) / 2 + 0.5, Circle, Circle);
+  // Half a pixel in, so that the line covers whole pixels.
+  const int top = (height() - Circle) / 2;
+  const QRectF ring(2.5, top + 0.5, Circle, Circle);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(QColor(0x60, 0x60, 0x60));
   painter.setBrush(isDown() ? QColor(0xD0, 0xD0, 0xD0) : QColor(Qt::white));
