@@ -12,6 +12,7 @@
 #include "studio/frmLineaalV.h"
 #include "studio/frmTekenen2.h"
 #include "support/script.h"
+#include "support/tree_folder.h"
 #include "surface/host.h"
 
 using namespace surface;

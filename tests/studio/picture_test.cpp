@@ -9,6 +9,7 @@
 #include <iterator>
 
 #include "studio/studio.h"
+#include "support/tree_folder.h"
 
 using namespace surface;
 

@@ -6,6 +6,7 @@
 #include <numeric>
 
 #include "replay.h"
+#include "support/tree_folder.h"
 
 namespace {
 
