@@ -41,7 +41,7 @@ class frmEinde : public surface::Form {
   // Above the texts, which reach a pixel into it.
   ImageControl Image9{*this,
                       {.Left = 120, .Top = 0, .Width = 6375, .Height = 6135, .Picture = "welkom"}};
-  TimerControl Timer1{{.Interval = 3500}};
+  TimerControl Timer1{*this, {.Interval = 3500}};
 
  private:
   void Timer1_Timer();

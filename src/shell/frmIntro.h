@@ -55,7 +55,7 @@ class frmIntro : public surface::Form {
        .Caption = "Met dank aan : alle kinderen, ouders en juffen en meesters die mee tekenden en "
                   "mee bedachten hoe het nog leuker kon.",
        .BackColor = 0xE0E0E0}};
-  TimerControl Timer1{{.Interval = 3000}};
+  TimerControl Timer1{*this, {.Interval = 3000}};
 
  private:
   static Label::Design line(float left, float top, float width, const char* text);

@@ -292,7 +292,7 @@ class frmTekenen2_controls : public surface::Form {
   ImageControl curDrop{*this, cursor("curDrop")};
   ImageControl curVizier{*this, cursor("curVizier")};
 
-  TimerControl Timer2{{.Interval = 0, .Enabled = false}};
+  TimerControl Timer2{*this, {.Interval = 0, .Enabled = false}};
   CommonDialog CommonDialog1;  // colours
   CommonDialog CommonDialog2;  // files, and the colours of the gradient
 };

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <exception>
 #include <utility>
 
 #include "surface/drawing.h"
@@ -19,11 +20,24 @@ void length(const float& value) {
 }
 }  // namespace check
 
+namespace {
+
+// Far beyond any screen, and far from what an int can hold.
+int wholePixels(double pixels) {
+  return std::isnan(pixels) ? 0 : static_cast<int>(roundEven(std::clamp(pixels, -1e6, 1e6)));
+}
+
+float lengthFrom(double pixels, double pixelsPerUnit) {
+  return static_cast<float>(pixels / std::abs(pixelsPerUnit));
+}
+
+}  // namespace
+
 Control::Control(Container& container, const Place& place, bool visible)
-    : Left(*this, static_cast<float>(place.Left / container.twipsPerUnit())),
-      Top(*this, static_cast<float>(place.Top / container.twipsPerUnit())),
-      Width(*this, static_cast<float>(place.Width / container.twipsPerUnit())),
-      Height(*this, static_cast<float>(place.Height / container.twipsPerUnit())),
+    : Left(*this, container.scale().fromPixelX(place.Left / TwipsPerPixel)),
+      Top(*this, container.scale().fromPixelY(place.Top / TwipsPerPixel)),
+      Width(*this, lengthFrom(place.Width / TwipsPerPixel, container.scale().pixelsPerUnitX())),
+      Height(*this, lengthFrom(place.Height / TwipsPerPixel, container.scale().pixelsPerUnitY())),
       Visible(*this, visible),
       Enabled(*this, true),
       ToolTipText(*this, {}),
@@ -33,21 +47,27 @@ Control::Control(Container& container, const Place& place, bool visible)
 
 Control::~Control() { std::erase(container_.controls_, this); }
 
-int Control::toPixels(float length) const {
-  const double pixels = length * container_.twipsPerUnit() / TwipsPerPixel;
-  // Far beyond any screen, and far from what an int can hold.
-  return static_cast<int>(roundEven(std::clamp(pixels, -1e6, 1e6)));
-}
+int Control::pixelX(float x) const { return wholePixels(container_.scale().toPixelX(x)); }
+int Control::pixelY(float y) const { return wholePixels(container_.scale().toPixelY(y)); }
 
 raster::Rect Control::pixelPlace() const {
-  const int left = toPixels(Left), top = toPixels(Top);
-  return {left, top, left + toPixels(Width), top + toPixels(Height)};
+  const Scale& scale = container_.scale();
+  const int left = pixelX(Left), top = pixelY(Top);
+  return {left, top, left + wholePixels(Width * std::abs(scale.pixelsPerUnitX())),
+          top + wholePixels(Height * std::abs(scale.pixelsPerUnitY()))};
+}
+
+void Control::rescaled(const Scale& from, const Scale& to) {
+  Left.setQuietly(to.fromPixelX(from.toPixelX(Left)));
+  Top.setQuietly(to.fromPixelY(from.toPixelY(Top)));
+  Width.setQuietly(lengthFrom(Width * std::abs(from.pixelsPerUnitX()), to.pixelsPerUnitX()));
+  Height.setQuietly(lengthFrom(Height * std::abs(from.pixelsPerUnitY()), to.pixelsPerUnitY()));
 }
 
 void Control::widthChanged(const float& former) {
   try {
     resized();
-  } catch (const RuntimeError&) {
+  } catch (const std::exception&) {
     Width.setQuietly(former);
     throw;
   }
@@ -57,7 +77,7 @@ void Control::widthChanged(const float& former) {
 void Control::heightChanged(const float& former) {
   try {
     resized();
-  } catch (const RuntimeError&) {
+  } catch (const std::exception&) {
     Height.setQuietly(former);
     throw;
   }
@@ -65,17 +85,12 @@ void Control::heightChanged(const float& former) {
 }
 
 void Control::visibilityChanged() {
-  if (!windowless() && !peer_ && Visible) container_.form().controlShown(*this);
+  if (!peer_ && Visible) container_.form().controlShown(*this);
   changed(Aspect::Visibility);
 }
 
 void Control::changed(Aspect aspect) {
-  if (!windowless()) {
-    if (peer_) peer_->update(aspect);
-    return;
-  }
-  const raster::Rect former = std::exchange(painted_, Visible ? paintedPixels() : raster::Rect{});
-  container_.repaintWindowless(unite(former, painted_));
+  if (peer_) peer_->update(aspect);
 }
 
 void Control::SetFocus() {

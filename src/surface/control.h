@@ -7,17 +7,15 @@
 #include <vector>
 
 #include "surface/color.h"
+#include "surface/container.h"
 #include "surface/event.h"
 #include "surface/font.h"
 #include "surface/prop.h"
 
 namespace surface {
 
-class Control;
-class Form;
-
 /// What a change of a control touches on the screen.
-enum class Aspect { Place, Visibility, Enabled, Look, Value };
+enum class Aspect { Place, Visibility, Enabled, Look, Value, Pointer };
 
 /// The widget behind a control, made by the toolkit layer when the control is first seen.
 class Peer {
@@ -26,23 +24,6 @@ class Peer {
   /// Takes over the control's properties of one aspect.
   virtual void update(Aspect aspect) = 0;
   virtual void focus() {}
-};
-
-/// What can hold controls: a form, a frame or a picture box. Its scale is the unit of its controls'
-/// places.
-class Container {
- public:
-  virtual ~Container() = default;
-  virtual Form& form() = 0;
-  virtual double twipsPerUnit() const = 0;
-  /// Repaints a rectangle (pixels) in which a windowless control was or is.
-  virtual void repaintWindowless(const raster::Rect& area) = 0;
-
-  const std::vector<Control*>& controls() const { return controls_; }
-
- private:
-  friend class Control;
-  std::vector<Control*> controls_;
 };
 
 namespace check {
@@ -70,7 +51,8 @@ class Control {
   Control(const Control&) = delete;
   Control& operator=(const Control&) = delete;
 
-  // In the scale of the container.
+  // In the scale of the container: the upper left corner, and a size that is positive whichever way
+  // the scale runs.
   Prop<float, &Control::placeChanged> Left;
   Prop<float, &Control::placeChanged> Top;
   Prop<float, &Control::widthChanged, check::length> Width;
@@ -85,9 +67,9 @@ class Control {
   Container& container() const { return container_; }
   /// Left, top, width, height in pixels within the container.
   raster::Rect pixelPlace() const;
-  /// Lines and shapes have no widget: their container paints them above its image.
+  /// Lines and shapes are only seen: the pointer reaches what lies beneath them.
   virtual bool windowless() const { return false; }
-  /// The pixels that a windowless control may paint.
+  /// The pixels within the container that the control may paint.
   virtual raster::Rect paintedPixels() const { return pixelPlace(); }
   /// The container side of a control that holds others, or null.
   virtual Container* asContainer() { return nullptr; }
@@ -98,16 +80,20 @@ class Control {
   void setPeer(std::unique_ptr<Peer> peer) { peer_ = std::move(peer); }
 
  protected:
-  /// A length or position in the container's scale to pixels.
-  int toPixels(float length) const;
+  /// A position in the container's scale to pixels.
+  int pixelX(float x) const;
+  int pixelY(float y) const;
   void changed(Aspect aspect);
   /// Hook for surfaces: the size in pixels has changed. May throw to refuse it.
   virtual void resized() {}
+  /// The container counts otherwise from now on, and the control stays where it is.
+  virtual void rescaled(const Scale& from, const Scale& to);
 
  private:
+  friend class Container;
+
   Container& container_;
   std::unique_ptr<Peer> peer_;
-  raster::Rect painted_;
 };
 
 }  // namespace surface

@@ -59,25 +59,31 @@ TextBox::TextBox(Container& container, const Design& d)
   ToolTipText.setQuietly(d.ToolTipText);
 }
 
-void TextBox::textChanged() {
+void TextBox::textChanged(const std::string& former) {
   if (MaxLength > 0) Text.setQuietly(beginning(Text, MaxLength));
+  // The widget may shorten the text further, to one line.
   valueChanged();
-  Change();
+  if (Text != former) Change();
 }
 
 void TextBox::typed(const std::string& text) {
+  if (Text == text) return;
   Text.setQuietly(text);
   Change();
 }
 
 Frame::Frame(Container& container, const Design& d)
     : Control(container, {d.Left, d.Top, d.Width, d.Height}, d.Visible),
+      Container(ScaleTwips, d.UserScale),
       Caption(*this, d.Caption),
       BackColor(*this, d.BackColor),
-      Font(*this, d.Font) {}
+      Font(*this, d.Font) {
+  resized();
+}
 
-void Frame::repaintWindowless(const raster::Rect& area) {
-  if (auto* shown = static_cast<SurfacePeer*>(peer())) shown->showPixels(area, false);
+void Frame::resized() {
+  const raster::Rect place = pixelPlace();
+  setScaleInner(place.width(), place.height());
 }
 
 CheckBox::CheckBox(Container& container, const Design& d)
@@ -170,7 +176,9 @@ HScrollBar::HScrollBar(Container& container, const Design& d)
     : Control(container, {d.Left, d.Top, d.Width, d.Height}, d.Visible),
       Value(*this, d.Value),
       Min(d.Min),
-      Max(d.Max) {}
+      Max(d.Max),
+      SmallChange(d.SmallChange),
+      LargeChange(d.LargeChange) {}
 
 void HScrollBar::moved(const int& former) {
   if (Value < Min || Value > Max) {
@@ -186,18 +194,25 @@ Slider::Slider(Container& container, const Design& d)
       Value(*this, std::clamp(d.Value, d.Min, d.Max)),
       Min(d.Min),
       Max(d.Max),
+      SmallChange(d.SmallChange),
+      LargeChange(d.LargeChange),
+      Vertical(d.Vertical),
       BackColor(d.BackColor) {
   ToolTipText.setQuietly(d.ToolTipText);
 }
 
-void Slider::moved() {
+void Slider::moved(const int& former) {
   Value.setQuietly(std::clamp<int>(Value, Min, Max));
   valueChanged();
+  if (Value != former) Change();
 }
 
 void Slider::scrolled(int value) {
+  const int former = Value;
   Value.setQuietly(std::clamp(value, Min, Max));
+  const bool differs = Value != former;
   Scroll();
+  if (differs) Change();
 }
 
 ProgressBar::ProgressBar(Container& container, const Design& d)
@@ -215,22 +230,28 @@ ImageControl::ImageControl(Container& container, const Design& d)
 
 LineControl::LineControl(Container& container, const Design& d)
     : Control(container, {d.X1, d.Y1, 0, 0}, d.Visible),
-      X1(*this, static_cast<float>(d.X1 / container.twipsPerUnit())),
-      Y1(*this, static_cast<float>(d.Y1 / container.twipsPerUnit())),
-      X2(*this, static_cast<float>(d.X2 / container.twipsPerUnit())),
-      Y2(*this, static_cast<float>(d.Y2 / container.twipsPerUnit())),
+      X1(*this, container.scale().fromPixelX(d.X1 / TwipsPerPixel)),
+      Y1(*this, container.scale().fromPixelY(d.Y1 / TwipsPerPixel)),
+      X2(*this, container.scale().fromPixelX(d.X2 / TwipsPerPixel)),
+      Y2(*this, container.scale().fromPixelY(d.Y2 / TwipsPerPixel)),
       BorderColor(*this, d.BorderColor),
       BorderWidth(*this, d.BorderWidth) {}
 
-raster::Rect LineControl::pixelEnds() const {
-  return {toPixels(X1), toPixels(Y1), toPixels(X2), toPixels(Y2)};
-}
+LineEnds LineControl::pixelEnds() const { return {pixelX(X1), pixelY(Y1), pixelX(X2), pixelY(Y2)}; }
 
 raster::Rect LineControl::paintedPixels() const {
-  const raster::Rect ends = pixelEnds();
-  const auto [left, right] = std::minmax(ends.left, ends.right);
-  const auto [top, bottom] = std::minmax(ends.top, ends.bottom);
+  const LineEnds ends = pixelEnds();
+  const auto [left, right] = std::minmax(ends.x1, ends.x2);
+  const auto [top, bottom] = std::minmax(ends.y1, ends.y2);
   return {left - BorderWidth, top - BorderWidth, right + BorderWidth + 1, bottom + BorderWidth + 1};
+}
+
+void LineControl::rescaled(const Scale& from, const Scale& to) {
+  Control::rescaled(from, to);
+  X1.setQuietly(to.fromPixelX(from.toPixelX(X1)));
+  Y1.setQuietly(to.fromPixelY(from.toPixelY(Y1)));
+  X2.setQuietly(to.fromPixelX(from.toPixelX(X2)));
+  Y2.setQuietly(to.fromPixelY(from.toPixelY(Y2)));
 }
 
 ShapeControl::ShapeControl(Container& container, const Design& d)
@@ -250,7 +271,7 @@ raster::Rect ShapeControl::paintedPixels() const {
 
 PictureBox::PictureBox(Container& container, const Design& d)
     : Control(container, {d.Left, d.Top, d.Width, d.Height}, d.Visible),
-      DrawingSurface(d.BackColor, d.ScaleMode),
+      DrawingSurface(d.BackColor, d.ScaleMode, d.UserScale),
       MousePointer(*this, d.MousePointer),
       MouseIcon(*this, {}) {
   AutoRedraw = d.AutoRedraw;
@@ -259,11 +280,6 @@ PictureBox::PictureBox(Container& container, const Design& d)
   FillColor = d.FillColor;
   resized();
   if (!d.Picture.empty()) Picture.setQuietly(host().artPicture(d.Picture));
-}
-
-double PictureBox::twipsPerUnit() const {
-  if (ScaleMode() == ScalePixels) return TwipsPerPixel;
-  return ScaleMode() == ScaleCentimetres ? TwipsPerCentimetre : 1;
 }
 
 void PictureBox::resized() {

@@ -14,7 +14,7 @@
 
 namespace surface {
 
-/// The widget of what paints pixels itself: a surface or a frame.
+/// The widget of a surface.
 class SurfacePeer : public Peer {
  public:
   virtual void showPixels(const raster::Rect& area, bool atOnce) = 0;
@@ -38,9 +38,9 @@ class CommandButton : public Control {
   Prop<std::string, &CommandButton::lookChanged> Caption;
   Prop<std::string, &CommandButton::lookChanged> Picture;
   Prop<Color, &CommandButton::lookChanged> BackColor;
-  Prop<surface::Font, &CommandButton::lookChanged> Font;
+  FontProp<&CommandButton::lookChanged> Font;
   Event<> Click;
-  Event<Mouse> MouseUp;
+  Event<Mouse> MouseDown, MouseUp;
 };
 
 /// A text that wraps within its width; runs of blanks are kept, since they break the lines.
@@ -59,13 +59,14 @@ class Label : public Control {
   Prop<std::string, &Label::valueChanged> Caption;
   Prop<Color, &Label::lookChanged> BackColor;
   Prop<Color, &Label::lookChanged> ForeColor;
-  Prop<surface::Font, &Label::lookChanged> Font;
+  FontProp<&Label::lookChanged> Font;
   const bool Centred;
   Event<> Click;
 };
 
+/// A box for text; a change of its Text fires Change, also by code.
 class TextBox : public Control {
-  void textChanged();
+  void textChanged(const std::string& former);
 
  public:
   struct Design {
@@ -82,7 +83,7 @@ class TextBox : public Control {
   Prop<std::string, &TextBox::textChanged> Text;
   Prop<Color, &TextBox::lookChanged> BackColor;
   Prop<Color, &TextBox::lookChanged> ForeColor;
-  Prop<surface::Font, &TextBox::lookChanged> Font;
+  FontProp<&TextBox::lookChanged> Font;
   Prop<bool, &TextBox::lookChanged> Locked;
   const int MaxLength;
   const bool Border, Centred, MultiLine;
@@ -100,18 +101,20 @@ class Frame : public Control, public Container {
     std::string Caption = {};
     Color BackColor = ButtonFace;
     surface::Font Font = {};
+    surface::UserScale UserScale = {};  ///< in place of twips
     bool Visible = true;
   };
   Frame(Container& container, const Design& design);
 
   Prop<std::string, &Frame::lookChanged> Caption;
   Prop<Color, &Frame::lookChanged> BackColor;
-  Prop<surface::Font, &Frame::lookChanged> Font;
+  FontProp<&Frame::lookChanged> Font;
 
   Form& form() override { return container().form(); }
-  double twipsPerUnit() const override { return 1; }
-  void repaintWindowless(const raster::Rect& area) override;
   Container* asContainer() override { return this; }
+
+ protected:
+  void resized() override;
 };
 
 /// A tick; a change of its Value fires Click, also by code.
@@ -132,7 +135,7 @@ class CheckBox : public Control {
   Prop<int, &CheckBox::ticked> Value;  ///< 0 or 1
   Prop<std::string, &CheckBox::lookChanged> Caption;
   Prop<Color, &CheckBox::lookChanged> BackColor;
-  Prop<surface::Font, &CheckBox::lookChanged> Font;
+  FontProp<&CheckBox::lookChanged> Font;
   Event<> Click;
 };
 
@@ -155,7 +158,7 @@ class OptionButton : public Control {
   Prop<bool, &OptionButton::chosen> Value;
   Prop<std::string, &OptionButton::lookChanged> Caption;
   Prop<Color, &OptionButton::lookChanged> BackColor;
-  Prop<surface::Font, &OptionButton::lookChanged> Font;
+  FontProp<&OptionButton::lookChanged> Font;
   Event<> Click;
 
   /// From the widget: the user has clicked, also on the one that is chosen already.
@@ -167,7 +170,7 @@ class ListControl : public Control {
   void selected(const int& former);
 
  public:
-  Prop<surface::Font, &ListControl::lookChanged> Font;
+  FontProp<&ListControl::lookChanged> Font;
   /// -1 = none; beyond the list a BadPropertyValue error.
   Prop<int, &ListControl::selected> ListIndex;
   Event<> Click;
@@ -218,6 +221,8 @@ class ListBox : public ListControl {
   ListBox(Container& container, const Design& design);
 };
 
+/// A bar from Min at the left to Max at the right; a change of its Value fires Change, also by
+/// code.
 class HScrollBar : public Control {
   void moved(const int& former);
 
@@ -225,23 +230,27 @@ class HScrollBar : public Control {
   struct Design {
     float Left = 0, Top = 0, Width = 0, Height = 0;
     int Min = 0, Max = 32767, Value = 0;
+    int SmallChange = 1, LargeChange = 1;  ///< of a press on an arrow, and beside the knob
     bool Visible = true;
   };
   HScrollBar(Container& container, const Design& design);
 
-  Prop<int, &HScrollBar::moved> Value;
-  const int Min, Max;
+  Prop<int, &HScrollBar::moved> Value;  ///< beyond Min..Max a BadPropertyValue error
+  const int Min, Max, SmallChange, LargeChange;
   Event<> Change;
 };
 
-/// A knob on a line. Only the user's own move fires Scroll.
+/// A knob on a line, with Min at the left or at the top. A change of its Value fires Change, also
+/// by code; the user's own move fires Scroll before that.
 class Slider : public Control {
-  void moved();
+  void moved(const int& former);
 
  public:
   struct Design {
     float Left = 0, Top = 0, Width = 0, Height = 375;
     int Min = 0, Max = 10, Value = 0;
+    int SmallChange = 1, LargeChange = 5;  ///< of an arrow key, and of a press beside the knob
+    bool Vertical = false;
     std::string ToolTipText = {};
     Color BackColor = ButtonFace;
     bool Visible = true;
@@ -249,9 +258,10 @@ class Slider : public Control {
   Slider(Container& container, const Design& design);
 
   Prop<int, &Slider::moved> Value;  ///< a value outside Min..Max becomes the nearer end
-  const int Min, Max;
+  const int Min, Max, SmallChange, LargeChange;
+  const bool Vertical;
   const Color BackColor;
-  Event<> Scroll;
+  Event<> Scroll, Change;
 
   /// From the widget: the user has moved the knob.
   void scrolled(int value);
@@ -269,7 +279,8 @@ class ProgressBar : public Control {
   Prop<int, &ProgressBar::valueChanged> Value;
 };
 
-/// A picture stretched to its place, or a holder of a cursor.
+/// A picture stretched to its place (enlarged as squares, shrunk smoothly), or a holder of a
+/// cursor.
 class ImageControl : public Control {
  public:
   struct Design {
@@ -286,7 +297,13 @@ class ImageControl : public Control {
   Event<> Click;
 };
 
-/// A line above its container's image, not part of it.
+/// Where a line begins and ends, pixels.
+struct LineEnds {
+  int x1, y1, x2, y2;
+  friend bool operator==(const LineEnds&, const LineEnds&) = default;
+};
+
+/// A line above its container's image and the controls declared before it, not part of them.
 class LineControl : public Control {
  public:
   struct Design {
@@ -305,12 +322,16 @@ class LineControl : public Control {
   Prop<int, &LineControl::lookChanged, check::drawWidth> BorderWidth;  ///< pixels, 1 and up
 
   bool windowless() const override { return true; }
-  /// From (left, top) to (right, bottom), in this order, in pixels within the container.
-  raster::Rect pixelEnds() const;
+  /// In pixels within the container.
+  LineEnds pixelEnds() const;
   raster::Rect paintedPixels() const override;
+
+ protected:
+  void rescaled(const Scale& from, const Scale& to) override;
 };
 
-/// A rectangle or oval above its container's image, not part of it.
+/// A rectangle or oval above its container's image and the controls declared before it, not part of
+/// them.
 class ShapeControl : public Control {
  public:
   struct Design {
@@ -342,13 +363,14 @@ enum Pointer {
 };
 
 /// A raster surface that keeps what is drawn on it.
-class PictureBox : public Control, public DrawingSurface, public Container {
-  void pointerChanged() { changed(Aspect::Look); }
+class PictureBox : public Control, public DrawingSurface {
+  void pointerChanged() { changed(Aspect::Pointer); }
 
  public:
   struct Design {
     float Left = 0, Top = 0, Width = 0, Height = 0;
     ScaleUnit ScaleMode = ScaleTwips;
+    surface::UserScale UserScale = {};  ///< in place of the ScaleMode
     bool AutoRedraw = false;
     std::string Picture = {};  ///< name of one of the program's own pictures
     std::string ToolTipText = {};
@@ -366,8 +388,6 @@ class PictureBox : public Control, public DrawingSurface, public Container {
   Event<Mouse> MouseDown, MouseMove, MouseUp;
 
   Form& form() override { return Control::container().form(); }
-  double twipsPerUnit() const override;
-  void repaintWindowless(const raster::Rect& area) override { damage(area); }
   Container* asContainer() override { return this; }
 
  protected:
@@ -379,12 +399,18 @@ class PictureBox : public Control, public DrawingSurface, public Container {
 template <class Kind, std::size_t Count>
 class ControlArray {
  public:
+  /// A member in a container of its own.
+  struct Member {
+    Container& container;
+    typename Kind::Design design;
+  };
+  explicit ControlArray(const std::array<Member, Count>& members) {
+    for (std::size_t i = 0; i < Count; ++i) make(i, members[i].container, members[i].design);
+  }
+  /// All members in one container.
   explicit ControlArray(Container& container,
                         const std::array<typename Kind::Design, Count>& designs) {
-    for (std::size_t i = 0; i < Count; ++i) {
-      members_[i] = std::make_unique<Kind>(container, designs[i]);
-      members_[i]->Index = static_cast<int>(i);
-    }
+    for (std::size_t i = 0; i < Count; ++i) make(i, container, designs[i]);
   }
 
   /// The member of an index; outside the array a subscript error.
@@ -396,6 +422,11 @@ class ControlArray {
   static constexpr int count() { return static_cast<int>(Count); }
 
  private:
+  void make(std::size_t i, Container& container, const typename Kind::Design& design) {
+    members_[i] = std::make_unique<Kind>(container, design);
+    members_[i]->Index = static_cast<int>(i);
+  }
+
   std::array<std::unique_ptr<Kind>, Count> members_;
 };
 

@@ -2,6 +2,7 @@
 // which must never see one.
 #include "surface/dispatch.h"
 
+#include <new>
 #include <utility>
 #include <vector>
 
@@ -17,14 +18,6 @@ bool hasEnded = false;
 std::vector<std::function<void()>> postponed;
 std::vector<std::function<void()>> repaints;
 
-// An action may put off another one.
-void runAll(std::vector<std::function<void()>>& list) {
-  while (!list.empty()) {
-    const auto actions = std::exchange(list, {});
-    for (const auto& action : actions) action();
-  }
-}
-
 void finishProgram() {
   hasEnded = true;
   if (host().leaveEventLoop) host().leaveEventLoop();
@@ -35,6 +28,28 @@ void failProgram(const std::string& text) {
   hasEnded = true;
   if (host().errorReport) host().errorReport(text);
   finishProgram();
+}
+
+void guarded(const std::function<void()>& action) {
+  try {
+    action();
+  } catch (const ProgramEnd&) {
+    finishProgram();
+  } catch (const std::bad_alloc&) {
+    failProgram("Out of memory");
+  } catch (const std::exception& error) {
+    failProgram(error.what());
+  } catch (...) {
+    failProgram("Unexpected error");
+  }
+}
+
+// An action may put off another one. One that fails keeps no other from its turn.
+void runAll(std::vector<std::function<void()>>& list) {
+  while (!list.empty()) {
+    const auto actions = std::exchange(list, {});
+    for (const auto& action : actions) guarded(action);
+  }
 }
 
 }  // namespace
@@ -50,33 +65,25 @@ void whenHandlersReturned(std::function<void()> action) {
   if (HandlerScope::running())
     postponed.push_back(std::move(action));
   else
-    action();
+    guarded(action);
 }
 
 void whenIdle(std::function<void()> action) {
   if (HandlerScope::running())
     repaints.push_back(std::move(action));
   else
-    action();
+    guarded(action);
 }
 
 void showPending() { runAll(repaints); }
 
 void dispatch(const std::function<void()>& handler) {
   if (hasEnded) return;
-  try {
+  guarded([&] {
     HandlerScope scope;
     handler();
     showPending();
-  } catch (const ProgramEnd&) {
-    finishProgram();
-  } catch (const RuntimeError& error) {
-    failProgram(error.what());
-  } catch (const std::exception& error) {
-    failProgram(error.what());
-  } catch (...) {
-    failProgram("Unexpected error");
-  }
+  });
 }
 
 void End() {

@@ -45,17 +45,6 @@ bool nearPixels(std::span<const PointF> points, std::span<raster::Spot> spots) {
   return far >= 0;
 }
 
-double twipsPerUnit(ScaleUnit unit) {
-  switch (unit) {
-    case ScalePixels:
-      return TwipsPerPixel;
-    case ScaleCentimetres:
-      return TwipsPerCentimetre;
-    default:
-      return 1;
-  }
-}
-
 void refuseUnless(bool good) {
   if (!good) throw RuntimeError(ErrorKind::BadPropertyValue, "Invalid property value");
 }
@@ -70,13 +59,9 @@ void fillStyle(const int& value) { refuseUnless(value >= 0 && value <= 7); }
 void color(const Color& value) { refuseUnless(value != NoColor); }
 }  // namespace check
 
-float ScaleX(float value, ScaleUnit from, ScaleUnit to) {
-  return static_cast<float>(value * twipsPerUnit(from) / twipsPerUnit(to));
-}
-float ScaleY(float value, ScaleUnit from, ScaleUnit to) { return ScaleX(value, from, to); }
-
-DrawingSurface::DrawingSurface(Color backColor, ScaleUnit scaleMode)
-    : BackColor(*this, backColor),
+DrawingSurface::DrawingSurface(Color backColor, ScaleUnit scaleMode, const UserScale& userScale)
+    : Container(scaleMode, userScale),
+      BackColor(*this, backColor),
       Picture(*this, {}),
       ForeColor(*this, Black),
       FillColor(*this, Black),
@@ -84,47 +69,17 @@ DrawingSurface::DrawingSurface(Color backColor, ScaleUnit scaleMode)
       DrawWidth(*this, 1),
       DrawStyle(*this, 0),
       DrawMode(*this, 13),
-      scaleMode_(scaleMode),
       alive_(std::make_shared<bool>(true)) {}
 
 DrawingSurface::~DrawingSurface() = default;
 
-double DrawingSurface::pixelsPerUnitX() const {
-  if (scaleMode_ == ScaleUser) return inner_.width() / static_cast<double>(userExtent_.Width);
-  return twipsPerUnit(scaleMode_) / TwipsPerPixel;
-}
-
-double DrawingSurface::pixelsPerUnitY() const {
-  if (scaleMode_ == ScaleUser) return inner_.height() / static_cast<double>(userExtent_.Height);
-  return twipsPerUnit(scaleMode_) / TwipsPerPixel;
-}
-
-float DrawingSurface::ScaleWidth() const {
-  return scaleMode_ == ScaleUser ? userExtent_.Width
-                                 : static_cast<float>(inner_.width() / pixelsPerUnitX());
-}
-
-float DrawingSurface::ScaleHeight() const {
-  return scaleMode_ == ScaleUser ? userExtent_.Height
-                                 : static_cast<float>(inner_.height() / pixelsPerUnitY());
-}
-
-void DrawingSurface::setUserScale(PointF origin, SizeF extent) {
-  refuseUnless(extent.Width != 0 && extent.Height != 0);
-  scaleMode_ = ScaleUser;
-  userOrigin_ = origin;
-  userExtent_ = extent;
-}
-
 inline DrawingSurface::Pixels DrawingSurface::pixelsOf(PointF at) const {
-  if (scaleMode_ == ScalePixels) return {toCoordinate(at.X), toCoordinate(at.Y)};
-  return {toCoordinate((at.X - userOrigin_.X) * pixelsPerUnitX()),
-          toCoordinate((at.Y - userOrigin_.Y) * pixelsPerUnitY())};
+  if (scale().unit() == ScalePixels) return {toCoordinate(at.X), toCoordinate(at.Y)};
+  return {toCoordinate(scale().toPixelX(at.X)), toCoordinate(scale().toPixelY(at.Y))};
 }
 
 PointF DrawingSurface::toScale(int pixelX, int pixelY) const {
-  return {static_cast<float>(pixelX / pixelsPerUnitX() + userOrigin_.X),
-          static_cast<float>(pixelY / pixelsPerUnitY() + userOrigin_.Y)};
+  return {scale().fromPixelX(pixelX), scale().fromPixelY(pixelY)};
 }
 
 inline raster::Pen DrawingSurface::pen(Color color) const {
@@ -177,7 +132,7 @@ void DrawingSurface::Strokes(std::span<const PointF> points, std::span<const Col
 
 std::vector<raster::Spot> DrawingSurface::spotsOf(std::span<const PointF> points) const {
   std::vector<raster::Spot> spots(points.size());
-  if (scaleMode_ == ScalePixels && nearPixels(points, spots)) return spots;
+  if (scale().unit() == ScalePixels && nearPixels(points, spots)) return spots;
   std::transform(points.begin(), points.end(), spots.begin(), [this](PointF point) {
     const Pixels at = pixelsOf(point);
     return raster::Spot{static_cast<std::int16_t>(at.x), static_cast<std::int16_t>(at.y)};
@@ -191,7 +146,7 @@ void DrawingSurface::Circle(PointF centre, float radius, std::optional<Color> co
   CurrentY = centre.Y;
   const Color ink = color.value_or(ForeColor);
   if (ink == NoColor) return;
-  double rx = radius * std::abs(pixelsPerUnitX());
+  double rx = radius * std::abs(scale().pixelsPerUnitX());
   double ry = rx;
   // A circle keeps the fraction of its radius, so that concentric ones half a pixel apart close to
   // a disc; an ellipse meets whole pixels at its four ends.
@@ -220,8 +175,8 @@ Color DrawingSurface::Point(PointF at) const {
 }
 
 void DrawingSurface::Cls() {
-  CurrentX = userOrigin_.X;
-  CurrentY = userOrigin_.Y;
+  CurrentX = ScaleLeft();
+  CurrentY = ScaleTop();
   erase();
 }
 
@@ -235,8 +190,8 @@ void DrawingSurface::PaintPicture(const surface::Picture& picture, PointF to,
                         from.left, from.top));
     return;
   }
-  const int width = toCoordinate(size->Width * pixelsPerUnitX());
-  const int height = toCoordinate(size->Height * pixelsPerUnitY());
+  const int width = toCoordinate(size->Width * scale().pixelsPerUnitX());
+  const int height = toCoordinate(size->Height * scale().pixelsPerUnitY());
   damage(raster::stretch(writableBitmap(), p.x, p.y, width, height, *picture.bitmap(), from.left,
                          from.top, from.width(), from.height()));
 }
@@ -253,8 +208,8 @@ void DrawingSurface::Print(const std::string& text) {
         changed = unite(changed,
                         raster::dot(onto, ink, origin.x + mask.left + x, origin.y + mask.top + y));
   damage(changed);
-  CurrentX = userOrigin_.X;
-  CurrentY += static_cast<float>(mask.lineHeight / pixelsPerUnitY());
+  CurrentX = ScaleLeft();
+  CurrentY += static_cast<float>(mask.lineHeight / scale().pixelsPerUnitY());
 }
 
 void DrawingSurface::Refresh() { showPixels(inner_, true); }
@@ -299,6 +254,7 @@ void DrawingSurface::setInnerSize(int width, int height) {
   // Before anything was drawn or stored there is nothing to keep.
   const auto former = bitmap_ || !Picture->empty() ? bitmap() : nullptr;
   inner_ = {0, 0, width, height};
+  setScaleInner(width, height);
   if (former) {
     auto resized = std::make_shared<raster::Bitmap>(width, height, toPixel(BackColor));
     raster::blit(*resized, 0, 0, former->width(), former->height(), *former, 0, 0);

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "surface/color.h"
+#include "surface/container.h"
 #include "surface/errors.h"
 #include "surface/font.h"
 #include "surface/picture.h"
@@ -17,27 +18,6 @@
 #include "surface/raster/draw.h"
 
 namespace surface {
-
-inline constexpr double TwipsPerPixel = 15;
-inline constexpr double TwipsPerCentimetre = 1440 / 2.54;
-
-/// The unit of a surface's coordinates: user scale, twips, pixels or centimetres.
-enum ScaleUnit { ScaleUser = 0, ScaleTwips = 1, ScalePixels = 3, ScaleCentimetres = 7 };
-
-/// A length converted from one unit to another, in single precision; both directions have square
-/// pixels.
-float ScaleX(float value, ScaleUnit from, ScaleUnit to);
-float ScaleY(float value, ScaleUnit from, ScaleUnit to);
-
-struct PointF {
-  float X = 0;
-  float Y = 0;
-};
-
-struct SizeF {
-  float Width = 0;
-  float Height = 0;
-};
 
 /// `B` a box in outline with the brush inside, `BF` a box filled with the line's colour.
 enum class BoxFlag { None, B, BF };
@@ -60,17 +40,15 @@ void fillStyle(const int& value);
 void color(const Color& value);
 }  // namespace check
 
-class DrawingSurface {
+class DrawingSurface : public Container {
  protected:
   void backColorChanged() { erase(); }
   void pictureChanged() { erase(); }
   void unchanged() {}
 
  public:
-  DrawingSurface(Color backColor, ScaleUnit scaleMode);
-  virtual ~DrawingSurface();
-  DrawingSurface(const DrawingSurface&) = delete;
-  DrawingSurface& operator=(const DrawingSurface&) = delete;
+  DrawingSurface(Color backColor, ScaleUnit scaleMode, const UserScale& userScale);
+  ~DrawingSurface() override;
 
   /// Assigning it erases everything drawn; only the Picture shows through again.
   Prop<Color, &DrawingSurface::backColorChanged, check::color> BackColor;
@@ -89,14 +67,6 @@ class DrawingSurface {
   surface::Font Font;
   float CurrentX = 0;
   float CurrentY = 0;
-
-  /// The inner size in the surface's own unit.
-  float ScaleWidth() const;
-  float ScaleHeight() const;
-  ScaleUnit ScaleMode() const { return scaleMode_; }
-  /// Switches to a scale of the program's own: the upper left corner and the extent of the inner
-  /// area.
-  void setUserScale(PointF origin, SizeF extent);
 
   /// Without a colour the ForeColor; a colour that is none (-1) paints nothing.
   void Line(PointF from, PointF to, std::optional<Color> color = {}, BoxFlag flag = BoxFlag::None);
@@ -154,16 +124,11 @@ class DrawingSurface {
   std::shared_ptr<const raster::Bitmap> composed() const;
   Pixels pixelsOf(PointF at) const;
   std::vector<raster::Spot> spotsOf(std::span<const PointF> points) const;
-  double pixelsPerUnitX() const;
-  double pixelsPerUnitY() const;
   raster::Pen pen(Color color) const;
   void growDamage(const raster::Rect& area);
   void showDamage();
 
-  ScaleUnit scaleMode_;
   raster::Rect inner_;
-  PointF userOrigin_;
-  SizeF userExtent_;
   /// The persistent bitmap, made when it is first needed: until something is drawn, BackColor and
   /// Picture say it all. Shared with snapshots; copied at the first write after one.
   mutable std::shared_ptr<const raster::Bitmap> bitmap_;

@@ -3,6 +3,7 @@
 // program.
 #pragma once
 
+#include <new>
 #include <stdexcept>
 #include <string>
 
@@ -36,6 +37,9 @@ bool trapAndLeave(Body&& body) {
     body();
     return true;
   } catch (const RuntimeError&) {
+    return false;
+  } catch (const std::bad_alloc&) {
+    // Lack of memory is an error like any other.
     return false;
   }
 }

@@ -18,10 +18,21 @@ int innerPixel(float outer, float frame) {
   return static_cast<int>(roundEven(std::clamp((outer - frame) / TwipsPerPixel, 1.0, 32767.0)));
 }
 
+int placePixel(float twips) {
+  return static_cast<int>(roundEven(std::clamp(twips / TwipsPerPixel, -32767.0, 32767.0)));
+}
+
+void showPointers(const Container& container) {
+  for (Control* control : container.controls()) {
+    if (control->peer()) control->peer()->update(Aspect::Pointer);
+    if (const Container* inner = control->asContainer()) showPointers(*inner);
+  }
+}
+
 }  // namespace
 
 Form::Form(const Design& design)
-    : DrawingSurface(design.BackColor, design.ScaleMode),
+    : DrawingSurface(design.BackColor, design.ScaleMode, design.UserScale),
       Caption(*this, design.Caption),
       MousePointer(*this, 0),
       Left(*this, 0),
@@ -36,10 +47,24 @@ Form::Form(const Design& design)
 
 Form::~Form() = default;
 
+void Form::pointerChanged() {
+  windowChanged();
+  showPointers(*this);
+}
+
 void Form::placeChanged() {
   placed_ = true;
+  if (peer_) peer_->move();
+}
+
+void Form::sizeChanged() {
   setInnerSize(innerPixel(Width, FrameWidth), innerPixel(Height, FrameHeight));
-  windowChanged();
+  if (peer_) peer_->resize();
+}
+
+raster::Rect Form::windowPlace() const {
+  const int left = placePixel(Left), top = placePixel(Top);
+  return {left, top, left + innerPixels().width(), top + innerPixels().height()};
 }
 
 void Form::Show() {
@@ -66,6 +91,12 @@ void Form::windowResized(int width, int height) {
   setInnerSize(width, height);
   Width.setQuietly(static_cast<float>(width * TwipsPerPixel) + FrameWidth);
   Height.setQuietly(static_cast<float>(height * TwipsPerPixel) + FrameHeight);
+}
+
+void Form::windowMoved(int x, int y) {
+  // A fraction of a pixel that the program has set is kept.
+  if (x != placePixel(Left)) Left.setQuietly(static_cast<float>(x * TwipsPerPixel));
+  if (y != placePixel(Top)) Top.setQuietly(static_cast<float>(y * TwipsPerPixel));
 }
 
 void Form::closeBoxPressed() {

@@ -44,12 +44,17 @@ class FormPeer {
   virtual void hide() = 0;
   /// Makes the widget of a control that has become visible.
   virtual void addControl(Control& control) = 0;
-  /// Caption, colour, pointer, place or top-most state has changed.
+  /// Caption, pointer or top-most state has changed.
   virtual void update() = 0;
+  /// The model has given the window another place.
+  virtual void move() = 0;
+  /// The model has given the window another size: it stays where it stands, or in the middle of the
+  /// screen if it is a centred one that nobody has moved.
+  virtual void resize() = 0;
   virtual void showPixels(const raster::Rect& area, bool atOnce) = 0;
 };
 
-class Form : public DrawingSurface, public Container {
+class Form : public DrawingSurface {
  public:
   // The kinds of control by their own names, so that a form's declarations read as its table.
   using CheckBox = surface::CheckBox;
@@ -78,7 +83,9 @@ class Form : public DrawingSurface, public Container {
   void windowChanged() {
     if (peer_) peer_->update();
   }
+  void pointerChanged();
   void placeChanged();
+  void sizeChanged();
 
  public:
   enum class Border { Sizable, Fixed, Tool };
@@ -89,18 +96,20 @@ class Form : public DrawingSurface, public Container {
     bool Maximised = false, Centred = false;
     Border BorderStyle = Border::Sizable;
     ScaleUnit ScaleMode = ScaleTwips;
+    surface::UserScale UserScale = {};  ///< in place of the ScaleMode
   };
   explicit Form(const Design& design);
   ~Form() override;
 
   Prop<std::string, &Form::windowChanged> Caption;
-  Prop<int, &Form::windowChanged> MousePointer;
+  /// While it is not 0 it rules over the pointers of all controls.
+  Prop<int, &Form::pointerChanged> MousePointer;
   // The outer place in twips: the inner size plus a fixed frame of 120 by 330 twips, whatever the
   // desktop really draws.
   Prop<float, &Form::placeChanged> Left;
   Prop<float, &Form::placeChanged> Top;
-  Prop<float, &Form::placeChanged, check::length> Width;
-  Prop<float, &Form::placeChanged, check::length> Height;
+  Prop<float, &Form::sizeChanged, check::length> Width;
+  Prop<float, &Form::sizeChanged, check::length> Height;
   const bool Maximised, Centred;
   const Border BorderStyle;
 
@@ -116,12 +125,10 @@ class Form : public DrawingSurface, public Container {
   /// Keeps the window above all others.
   void setTopMost();
   bool topMost() const { return topMost_; }
-  /// True once Left or Top was set: the window no longer stands where the desktop put it.
+  /// True once the program has set Left or Top: the window is not left to the desktop.
   bool placed() const { return placed_; }
 
   Form& form() override { return *this; }
-  double twipsPerUnit() const override { return 1; }
-  void repaintWindowless(const raster::Rect& area) override { damage(area); }
   FormPeer* peer() const { return peer_.get(); }
 
   // From the toolkit layer.
@@ -129,6 +136,12 @@ class Form : public DrawingSurface, public Container {
   void closeBoxPressed();
   /// The window's inner size in pixels.
   void windowResized(int width, int height);
+  /// The window's upper left corner in pixels, its frame included: Left and Top follow.
+  void windowMoved(int x, int y);
+  /// The place and size that the model wants, pixels: the corner of the frame, the inner size.
+  raster::Rect windowPlace() const;
+  /// True from the moment at which the form is being unloaded.
+  bool unloading() const { return unloading_; }
 
  protected:
   void showPixels(const raster::Rect& area, bool atOnce) override;

@@ -5,10 +5,11 @@ namespace surface {
 
 void BitBlt(DeviceContext target, int x, int y, int width, int height, DeviceContext source, int sx,
             int sy, unsigned rop) {
-  if (rop != SrcCopy) return;
+  if (rop != SrcCopy && rop != SrcInvert) return;
+  const auto bring = rop == SrcCopy ? raster::blit : raster::blitXor;
   const auto from = source.surface->bitmap();
   target.surface->damage(
-      raster::blit(target.surface->writableBitmap(), x, y, width, height, *from, sx, sy));
+      bring(target.surface->writableBitmap(), x, y, width, height, *from, sx, sy));
 }
 
 void StretchBlt(DeviceContext target, int x, int y, int width, int height, DeviceContext source,

@@ -7,13 +7,14 @@
 namespace surface {
 
 inline constexpr unsigned SrcCopy = 0x00CC0020;
+inline constexpr unsigned SrcInvert = 0x00660046;
 inline constexpr int FloodFillSurface = 1;
 
-/// Copies a block of width x height pixels from (sx, sy) of the source. Only SrcCopy is known:
-/// anything else paints nothing.
+/// Brings a block of width x height pixels from (sx, sy) of the source: SrcCopy copies it,
+/// SrcInvert takes the exclusive or of source and target. Anything else paints nothing.
 void BitBlt(DeviceContext target, int x, int y, int width, int height, DeviceContext source, int sx,
             int sy, unsigned rop);
-/// The same, scaled without smoothing; a negative target size mirrors.
+/// Copies a block scaled without smoothing (SrcCopy only); a negative target size mirrors.
 void StretchBlt(DeviceContext target, int x, int y, int width, int height, DeviceContext source,
                 int sx, int sy, int swidth, int sheight, unsigned rop);
 /// Paints with the current brush what is 4-connected with (x, y) and has exactly `color`. Only

@@ -52,9 +52,10 @@ struct Host {
   std::function<void(const Picture&)> setClipboard;  ///< an empty picture clears it
   std::function<Picture()> getClipboard;
   std::function<TextMask(const Font&, const std::string& text)> rasterText;
-  std::function<std::int64_t()> clock;  ///< milliseconds, never backwards
-  std::function<std::uint64_t()> seed;  ///< something that differs from call to call
-  std::function<void()> timersChanged;  ///< the time of the next tick may have changed
+  std::function<raster::Rect()> screen;  ///< the whole of it, pixels
+  std::function<std::int64_t()> clock;   ///< milliseconds, never backwards
+  std::function<std::uint64_t()> seed;   ///< something that differs from call to call
+  std::function<void()> timersChanged;   ///< the time of the next tick may have changed
   std::function<void(const std::string& text)> errorReport;
   std::function<void()> leaveEventLoop;
 };

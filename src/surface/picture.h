@@ -36,4 +36,8 @@ Picture LoadPicture(const std::string& path);
 /// it is complete; CannotWrite leaves the older one as it was.
 void SavePicture(const Picture& picture, const std::string& path);
 
+/// A path as the system reads it: backslashes part folders like slashes, unless a file of exactly
+/// the written name exists. The two above take such paths.
+std::string toPath(const std::string& written);
+
 }  // namespace surface

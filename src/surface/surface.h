@@ -11,4 +11,5 @@
 #include "surface/gdi.h"
 #include "surface/numbers.h"
 #include "surface/random.h"
+#include "surface/screen.h"
 #include "surface/timer.h"

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "surface/form.h"
 #include "surface/host.h"
 
 namespace surface {
@@ -17,14 +18,18 @@ std::vector<TimerControl*>& timers() {
   return all;
 }
 
+bool exists(const TimerControl* timer) {
+  return std::find(timers().begin(), timers().end(), timer) != timers().end();
+}
+
 void tellHost() {
   if (host().timersChanged) host().timersChanged();
 }
 
 }  // namespace
 
-TimerControl::TimerControl(const Design& design)
-    : Interval(*this, design.Interval), Enabled(*this, design.Enabled) {
+TimerControl::TimerControl(const Form* form, const Design& design)
+    : Interval(*this, design.Interval), Enabled(*this, design.Enabled), form_(form) {
   timers().push_back(this);
   restart();
 }
@@ -34,12 +39,16 @@ TimerControl::~TimerControl() {
   tellHost();
 }
 
+bool TimerControl::runs() const {
+  return Enabled && Interval > 0 && !firing_ && !(form_ && form_->unloading());
+}
+
 std::int64_t TimerControl::period() const {
   return std::max<std::int64_t>(Interval, ShortestPeriod);
 }
 
 void TimerControl::restart() {
-  if (runs()) due_ = host().clock() + period();
+  if (Enabled && Interval > 0) due_ = host().clock() + period();
   tellHost();
 }
 
@@ -48,13 +57,15 @@ void fireDueTimers() {
   // A tick may make or destroy timers, so only those that still exist are fired.
   const auto before = timers();
   for (TimerControl* timer : before) {
-    const auto& all = timers();
-    if (std::find(all.begin(), all.end(), timer) == all.end()) continue;
-    if (!timer->runs() || timer->due_ > now) continue;
+    if (!exists(timer) || !timer->runs() || timer->due_ > now) continue;
     timer->due_ += timer->period();
     if (timer->due_ <= now) timer->due_ = now + timer->period();
+    timer->firing_ = true;
+    // The handler may open a dialog, and the other timers go on meanwhile.
+    tellHost();
     dispatch([timer] { timer->Timer(); });
     if (ended()) return;
+    if (exists(timer)) timer->firing_ = false;
   }
   tellHost();
 }

@@ -9,8 +9,11 @@
 
 namespace surface {
 
+class Form;
+
 /// Fires `Timer` every Interval milliseconds (0 = never, no faster than every 10) while Enabled. A
-/// tick that comes late comes once.
+/// tick that comes late comes once, and none comes while its own handler runs. The timers of a form
+/// that is being unloaded are dead.
 class TimerControl {
   void restart();
 
@@ -19,7 +22,9 @@ class TimerControl {
     int Interval = 0;
     bool Enabled = true;
   };
-  explicit TimerControl(const Design& design);
+  TimerControl(const Form& form, const Design& design) : TimerControl(&form, design) {}
+  /// A timer of no form.
+  explicit TimerControl(const Design& design) : TimerControl(nullptr, design) {}
   ~TimerControl();
   TimerControl(const TimerControl&) = delete;
   TimerControl& operator=(const TimerControl&) = delete;
@@ -28,13 +33,16 @@ class TimerControl {
   Prop<bool, &TimerControl::restart> Enabled;
   Event<> Timer;
 
-  bool runs() const { return Enabled && Interval > 0; }
+  bool runs() const;
   std::int64_t due() const { return due_; }
 
  private:
   friend void fireDueTimers();
+  TimerControl(const Form* form, const Design& design);
   std::int64_t period() const;
 
+  const Form* form_;
+  bool firing_ = false;
   std::int64_t due_ = 0;
 };
 

@@ -19,7 +19,7 @@ using namespace surface;
 
 namespace {
 
-struct Screen {
+struct Opening {
   const char* name;
   Form& (*open)();
 };
@@ -36,7 +36,7 @@ Form& openedDefault() {
   return the<F>();
 }
 
-const Screen Screens[] = {
+const Opening Screens[] = {
     {"frmEinde", opened<frmEinde>},        {"frmIntro", opened<frmIntro>},
     {"frmLineaalH", opened<frmLineaalH>},  {"frmLineaalV", opened<frmLineaalV>},
     {"frmStart", openedDefault<frmStart>}, {"frmTekenen2", openedDefault<frmTekenen2>}};
@@ -68,7 +68,7 @@ bool fire(Control& control) {
 
 }  // namespace
 
-class EveryForm : public script::Stage, public testing::WithParamInterface<Screen> {
+class EveryForm : public script::Stage, public testing::WithParamInterface<Opening> {
  protected:
   // No to every question, a cancel for every dialog.
   void declineEverything() {
@@ -142,7 +142,7 @@ std::set<std::string> formsIn(const std::filesystem::path& header) {
 // A new form must find its way into the list above.
 TEST(EveryFormOfTheTree, IsTried) {
   std::set<std::string> tried, known;
-  for (const Screen& screen : Screens) tried.insert(screen.name);
+  for (const Opening& screen : Screens) tried.insert(screen.name);
   for (const auto& entry :
        std::filesystem::recursive_directory_iterator(std::string(KRASPRET_TREE) + "/src"))
     if (entry.path().extension() == ".h") known.merge(formsIn(entry.path()));

@@ -207,7 +207,7 @@ TEST_F(Menu, ItsTextsAndItsPictureStandAtTheirPlaces) {
     EXPECT_EQ(row.label.ForeColor, row.color);
     EXPECT_EQ(row.label.BackColor, menu.BackColor);
     // No size: it is free.
-    const float size = row.size > 0 ? row.size : row.label.Font->Size;
+    const float size = row.size > 0 ? row.size : row.label.Font.Size;
     EXPECT_EQ(row.label.Font, (Font{"Arial", size, true}));
   }
   expectPlace(menu.Image9, 120, 840, 7575, 7215);

@@ -145,8 +145,8 @@ TEST_F(StudioFrame, TheStatusLineTheReadOutAndTheRadiusStandAtTheirPlaces) {
   expectPlace(studio.lblModus, 240, 7320, 2295, 855);
   EXPECT_EQ(studio.lblModus.BackColor, 0x404040);
   EXPECT_EQ(studio.lblModus.ForeColor, White);
-  EXPECT_EQ(studio.lblModus.Font->Name, "Arial");
-  EXPECT_TRUE(studio.lblModus.Font->Bold);
+  EXPECT_EQ(studio.lblModus.Font.Name, "Arial");
+  EXPECT_TRUE(studio.lblModus.Font.Bold);
   EXPECT_EQ(studio.lblModus.ToolTipText, "je MEDEDELINGENBORDJE");
   EXPECT_EQ(studio.Label8.Caption, "coördinaten");
   EXPECT_EQ(studio.Label8.Left, 120);
@@ -200,7 +200,7 @@ TEST_F(StudioFrame, ThreeWindowlessControlsLieHiddenInTheSheet) {
   expectPlace(studio.ShpOval, 0, 0, 25, 17);
   EXPECT_TRUE(studio.ShpOval.Oval);
   EXPECT_EQ(studio.ShpOval.FillColor, White);
-  EXPECT_EQ(studio.Line1.pixelEnds(), (raster::Rect{48, 24, 96, 48}));
+  EXPECT_EQ(studio.Line1.pixelEnds(), (surface::LineEnds{48, 24, 96, 48}));
   expectPlace(studio.Shape2, 56, 80, 57, 41);
   for (const Control* control :
        {static_cast<Control*>(&studio.ShpOval), static_cast<Control*>(&studio.Line1),

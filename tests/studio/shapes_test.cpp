@@ -343,7 +343,7 @@ TEST_F(Shapes, TheFirstLineDragShowsASampleAtAFixedPlaceForGood) {
   EXPECT_TRUE(studio.Line1.Visible);
   EXPECT_EQ(studio.Line1.BorderWidth, 5);
   EXPECT_EQ(studio.Line1.BorderColor, Red);
-  EXPECT_EQ(studio.Line1.pixelEnds(), (raster::Rect{48, 24, 96, 48}));
+  EXPECT_EQ(studio.Line1.pixelEnds(), (surface::LineEnds{48, 24, 96, 48}));
   EXPECT_EQ(onScreen(72, 36), QColor(255, 0, 0));
   EXPECT_EQ(onScreen(310, 300), QColor(Qt::white)) << "there is no rubber band";
   release(sheet, 320, 300);

@@ -43,6 +43,25 @@ class Box : public Form {
   Slider Slider1{*this, {.Left = 150, .Top = 2400, .Width = 1500, .Min = 1, .Max = 20, .Value = 5}};
   HScrollBar Scroll1{
       *this, {.Left = 150, .Top = 2850, .Width = 1500, .Height = 300, .Max = 100, .Value = 10}};
+  Slider Slider2{*this,
+                 {.Left = 5400,
+                  .Top = 1500,
+                  .Width = 450,
+                  .Height = 2250,
+                  .Min = 1,
+                  .Max = 20,
+                  .Value = 1,
+                  .SmallChange = 2,
+                  .LargeChange = 4,
+                  .Vertical = true}};
+  HScrollBar Scroll2{*this,
+                     {.Left = 3750,
+                      .Top = 3450,
+                      .Width = 1500,
+                      .Height = 300,
+                      .Max = 1536,
+                      .SmallChange = 64,
+                      .LargeChange = 100}};
   CommandButton cmdKnop{
       *this, {.Left = 150, .Top = 3300, .Width = 1500, .Height = 450, .Caption = "Druk &hier"}};
   Label lblTekst{*this, {.Left = 3750, .Top = 150, .Width = 1500, .Height = 450, .Caption = "tik"}};
@@ -102,6 +121,22 @@ TEST_F(Controls, EveryKeyFiresChangeWithTheTextSoFar) {
 TEST_F(Controls, TextByCodeFiresChange) {
   box.txtKort.Change = count;
   box.txtKort.Text = "Jan";
+  EXPECT_EQ(fired, 1);
+}
+
+TEST_F(Controls, AHandlerThatWritesTheSameTextIsNotCalledAgain) {
+  box.txtKort.Change = [this] {
+    if (++fired < 10) box.txtKort.Text = "ab";
+  };
+  box.txtKort.Text = "abc";
+  EXPECT_EQ(fired, 2) << "once for each text";
+  // Cut off at the maximum it is the same as before.
+  box.txtKort.Text = "abcd";
+  fired = 0;
+  box.txtKort.Change = count;
+  box.txtKort.Text = "abcdefg";
+  EXPECT_EQ(fired, 1);
+  box.txtKort.Text = "abcdxyz";
   EXPECT_EQ(fired, 1);
 }
 
@@ -250,6 +285,32 @@ TEST_F(Controls, OnlyTheChildsOwnMoveOfASliderFiresScroll) {
   EXPECT_EQ(fired, 1);
 }
 
+TEST_F(Controls, ASliderFiresChangeByCodeAndAfterTheScrollOfTheChild) {
+  std::string order;
+  box.Slider1.Scroll = [&] { order += "scroll "; };
+  box.Slider1.Change = [&] { order += "change" + toText(box.Slider1.Value) + " "; };
+  box.Slider1.Value = 8;
+  box.Slider1.Value = 8;
+  EXPECT_EQ(order, "change8 ");
+  QTest::keyClick(script::widgetOf(box.Slider1), Qt::Key_Right);
+  EXPECT_EQ(order, "change8 scroll change9 ");
+}
+
+TEST_F(Controls, AVerticalSliderHasItsLeastValueAtTheTop) {
+  EXPECT_EQ(box.Slider2.Value, 1);
+  QWidget* knob = script::widgetOf(box.Slider2);
+  EXPECT_GT(knob->height(), knob->width());
+  QTest::keyClick(knob, Qt::Key_Down);
+  EXPECT_EQ(box.Slider2.Value, 3);
+  QTest::keyClick(knob, Qt::Key_Up);
+  EXPECT_EQ(box.Slider2.Value, 1);
+  QTest::keyClick(knob, Qt::Key_PageDown);
+  EXPECT_EQ(box.Slider2.Value, 5);
+  // Beside the knob at the very bottom.
+  QTest::mouseClick(knob, Qt::LeftButton, {}, {knob->width() / 2, knob->height() - 2});
+  EXPECT_EQ(box.Slider2.Value, 9);
+}
+
 TEST_F(Controls, ASlidersValueStaysWithinItsEnds) {
   box.Slider1.Value = 100;
   EXPECT_EQ(box.Slider1.Value, 20);
@@ -268,18 +329,28 @@ TEST_F(Controls, AScrollBarFiresChangeByCodeAndByHand) {
   EXPECT_EQ(fired, 2);
 }
 
+TEST_F(Controls, AScrollBarMovesByItsSmallAndItsLargeStep) {
+  QTest::keyClick(script::widgetOf(box.Scroll2), Qt::Key_Right);
+  EXPECT_EQ(box.Scroll2.Value, 64);
+  QTest::keyClick(script::widgetOf(box.Scroll2), Qt::Key_PageUp);
+  EXPECT_EQ(box.Scroll2.Value, 164);
+}
+
 TEST_F(Controls, AScrollBarRefusesAValueBeyondItsEnds) {
   EXPECT_ERROR(BadPropertyValue, box.Scroll1.Value = 101);
   EXPECT_ERROR(BadPropertyValue, box.Scroll1.Value = -1);
   EXPECT_EQ(box.Scroll1.Value, 10);
 }
 
-TEST_F(Controls, AButtonFiresClickThenMouseUp) {
+TEST_F(Controls, AButtonFiresMouseDownThenClickThenMouseUp) {
   std::string order;
+  box.cmdKnop.MouseDown = [&](const Mouse& at) {
+    order += "down" + toText(at.Button) + "@" + toText(at.X) + "," + toText(at.Y) + " ";
+  };
   box.cmdKnop.Click = [&] { order += "click "; };
   box.cmdKnop.MouseUp = [&](const Mouse& at) { order += "up" + toText(at.Button); };
   click(box.cmdKnop);
-  EXPECT_EQ(order, "click up1");
+  EXPECT_EQ(order, "down1@750,225 click up1");
 }
 
 TEST_F(Controls, TheRightButtonPressesNoButtonButItsReleaseIsTold) {
@@ -341,6 +412,21 @@ TEST_F(Controls, AClickOnALabelDoesNotFallThroughToTheForm) {
   box.MouseUp = [this](const Mouse&) { ++fired; };
   click(box.lblTekst);
   EXPECT_EQ(fired, 0);
+}
+
+TEST_F(Controls, APartOfAFontIsSetByItselfAndShows) {
+  const QFont before = script::widgetOf(box.lblTekst)->font();
+  box.lblTekst.Font.Bold = true;
+  EXPECT_TRUE(script::widgetOf(box.lblTekst)->font().bold());
+  EXPECT_EQ(script::widgetOf(box.lblTekst)->font().pixelSize(), before.pixelSize());
+  box.lblTekst.Font.Size = 24;
+  EXPECT_EQ(script::widgetOf(box.lblTekst)->font().pixelSize(), 32);
+  EXPECT_TRUE(script::widgetOf(box.lblTekst)->font().bold());
+  box.cmdKnop.Font = box.lblTekst.Font;
+  EXPECT_EQ(script::widgetOf(box.cmdKnop)->font().pixelSize(), 32);
+  box.cmdKnop.Font = {"Arial", 9};
+  EXPECT_EQ(script::widgetOf(box.cmdKnop)->font().pixelSize(), 12);
+  EXPECT_FALSE(script::widgetOf(box.cmdKnop)->font().bold());
 }
 
 TEST_F(Controls, AFrameHidesAndShowsAllItContains) {

@@ -1,7 +1,11 @@
 // Events, the two error regimes, untrapped errors, and the end of the program.
 #include "surface/dispatch.h"
 
+#include <QCoreApplication>
+#include <QResizeEvent>
+#include <QWidget>
 #include <memory>
+#include <new>
 #include <stdexcept>
 
 #include "support/errors.h"
@@ -178,4 +182,46 @@ TEST_F(Errors, WhatWasPutOffHappensAlsoWhenTheHandlerFails) {
   });
   EXPECT_TRUE(watched.expired());
   takeErrorReport();
+}
+
+TEST_F(Errors, AnErrorInWorkThatWasPutOffIsReportedAndKeepsNoOtherFromItsTurn) {
+  bool other = false;
+  dispatch([&] {
+    whenHandlersReturned([] { fail(); });
+    whenHandlersReturned([&] { other = true; });
+  });
+  EXPECT_EQ(takeErrorReport(), "Something happened");
+  EXPECT_TRUE(other);
+  EXPECT_TRUE(ended());
+}
+
+TEST_F(Errors, WorkThatWasPutOffMayEndTheProgram) {
+  dispatch([] { whenIdle([] { End(); }); });
+  EXPECT_TRUE(ended());
+  EXPECT_EQ(left, 1);
+}
+
+TEST_F(Errors, AWindowThatBecomesTooLargeIsReportedLikeAnyError) {
+  class Wall : public Form {
+   public:
+    Wall() : Form({.Width = 3000, .Height = 1500}) {}
+    Label lblTekst{*this, {.Width = 750, .Height = 375}};
+  };
+  Wall& wall = the<Wall>();
+  wall.Show();
+  QWidget* window = script::widgetOf(wall.lblTekst)->window();
+  // The resize of a window reaches the model as an event: 40000 pixels are more than it takes.
+  QResizeEvent grown({40000, 100}, window->size());
+  QCoreApplication::sendEvent(window, &grown);
+  EXPECT_EQ(takeErrorReport(), "Out of memory");
+  EXPECT_TRUE(ended());
+}
+
+TEST_F(Errors, LackOfMemoryIsTrappedAndReportedLikeAnyError) {
+  EXPECT_FALSE(trapAndLeave([] { throw std::bad_alloc(); }));
+  bool wentOn = false;
+  resumeNext([] { throw std::bad_alloc(); }, [&] { wentOn = true; });
+  EXPECT_TRUE(wentOn);
+  dispatch([] { throw std::bad_alloc(); });
+  EXPECT_EQ(takeErrorReport(), "Out of memory");
 }

@@ -61,6 +61,17 @@ TEST_F(DeviceCalls, ABlockIsCopiedFromOneSurfaceToAnother) {
           << x << ',' << y;
 }
 
+TEST_F(DeviceCalls, ExclusiveOrTurnsTheColoursRoundOnAWhiteGround) {
+  pixels.Line({10, 10}, {19, 19}, 0x123456, BF);
+  BitBlt(twips.hDC(), 0, 0, 40, 40, pixels.hDC(), 0, 0, 0x660046);
+  EXPECT_EQ(GetPixel(twips.hDC(), 15, 15), 0xFFFFFF - 0x123456);
+  EXPECT_EQ(GetPixel(twips.hDC(), 5, 5), Black);
+  // Once more brings everything back.
+  BitBlt(twips.hDC(), 0, 0, 40, 40, pixels.hDC(), 0, 0, SrcInvert);
+  EXPECT_EQ(GetPixel(twips.hDC(), 15, 15), White);
+  EXPECT_EQ(GetPixel(twips.hDC(), 5, 5), White);
+}
+
 TEST_F(DeviceCalls, ABlockMayBeCopiedOntoItself) {
   for (int x = 0; x < 40; ++x) SetPixel(pixels.hDC(), x, 0, RGB(x, 0, 0));
   BitBlt(pixels.hDC(), 1, 0, 30, 1, pixels.hDC(), 0, 0, SrcCopy);

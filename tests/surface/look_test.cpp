@@ -78,6 +78,7 @@ class ShopWindow : public Form {
                                              .AutoRedraw = true,
                                              .ToolTipText = "het blad",
                                              .BackColor = White}};
+  ImageControl imgPlaat{*this, {.Left = 1800, .Top = 2700, .Width = 600, .Height = 600}};
   LineControl Line1{sheet,
                     {.X1 = 150,
                      .Y1 = 150,
@@ -319,6 +320,25 @@ TEST_F(Looks, AShapeFarBeyondTheSheetHarmsNothing) {
   show.Shape1.Visible = true;
   EXPECT_NO_THROW(show.Shape1.Left = -1e30f);
   EXPECT_FALSE(shown(show.sheet).isNull());
+}
+
+TEST_F(Looks, AnImageIsEnlargedInSquaresAndShrunkSmoothly) {
+  const auto striped = [](int width) {
+    raster::Bitmap stripes(width, 1, toPixel(White));
+    for (int x = 0; x < width; x += 2) stripes.row(0)[x] = toPixel(Black);
+    return Picture(std::make_shared<const raster::Bitmap>(stripes));
+  };
+  show.imgPlaat.Picture = striped(4);
+  QImage screen = shown(show.imgPlaat);
+  for (int x = 0; x < 40; ++x)
+    EXPECT_EQ(screen.pixelColor(x, 20), QColor(x / 10 % 2 ? Qt::white : Qt::black)) << x;
+  // Three to one: each dot is the mean of its three, or nearly so.
+  show.imgPlaat.Picture = striped(120);
+  screen = shown(show.imgPlaat);
+  for (int x = 1; x < 39; ++x) {
+    EXPECT_GT(screen.pixelColor(x, 20).red(), 60) << x;
+    EXPECT_LT(screen.pixelColor(x, 20).red(), 195) << x;
+  }
 }
 
 TEST_F(Looks, ControlsAreStackedInTheOrderOfTheirDeclaration) {

@@ -184,3 +184,20 @@ TEST_F(PointerOnASurface, ItsShapeFollowsMousePointer) {
   desk.picPixels.MouseIcon = "curGom";
   EXPECT_NE(widget->cursor().pixmap().toImage(), pen);
 }
+
+// On an enlarged screen positions are fractions of a pixel.
+TEST_F(PointerOnASurface, AFractionOfAPixelBelongsToThePixelThatShowsIt) {
+  QWidget* widget = script::widgetOf(desk.picPixels);
+  for (const double fraction : {0.0, 0.25, 0.5, 0.75, 0.99}) {
+    const QPointF at(9 + fraction, 20 + fraction);
+    QMouseEvent press(QEvent::MouseButtonPress, at, widget->mapToGlobal(at), Qt::LeftButton,
+                      Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(widget, &press);
+    EXPECT_EQ(heard(), "down 1@9,20 ") << fraction;
+  }
+  const QPointF outside(-0.5, 99.5);
+  QMouseEvent release(QEvent::MouseButtonRelease, outside, widget->mapToGlobal(outside),
+                      Qt::LeftButton, Qt::NoButton, Qt::NoModifier);
+  QCoreApplication::sendEvent(widget, &release);
+  EXPECT_EQ(heard(), "up 1@-1,99 ") << "beside the surface: no click";
+}

@@ -2,6 +2,7 @@
 #include <memory>
 
 #include "support/script.h"
+#include "surface/dialogs.h"
 #include "surface/errors.h"
 #include "surface/form.h"
 #include "surface/host.h"
@@ -151,7 +152,7 @@ TEST_F(Timers, ATickMayUnloadTheFormOfItsTimer) {
       };
     }
     bool gone = false;
-    TimerControl Timer1{{.Interval = 20}};
+    TimerControl Timer1{*this, {.Interval = 20}};
   };
   the<Moment>().Show();
   advance(20);
@@ -168,4 +169,56 @@ TEST_F(Timers, AnErrorInATickEndsTheProgramAndNoOtherTicks) {
   EXPECT_EQ(takeErrorReport(), "Division by zero");
   EXPECT_TRUE(ended());
   EXPECT_EQ(ticks, 0);
+}
+
+TEST_F(Timers, GoOnWhileTheMessageBoxOfATickStands) {
+  TimerControl asks({.Interval = 100}), other({.Interval = 30});
+  int ticks = 0, boxes = 0;
+  count(other, ticks);
+  asks.Timer = [&] {
+    asks.Enabled = false;
+    MsgBox("Klaar !!!");
+  };
+  host().msgBox = [&](const std::string&, int, const std::string&) {
+    ++boxes;
+    const int before = ticks;
+    advance(300);
+    EXPECT_EQ(ticks - before, 10);
+    return static_cast<int>(Ok);
+  };
+  advance(100);
+  EXPECT_EQ(boxes, 1);
+}
+
+TEST_F(Timers, ATimerThatAsksSomethingAsksItOnce) {
+  TimerControl asks({.Interval = 100});
+  int boxes = 0;
+  asks.Timer = [&] { MsgBox("Klaar !!!"); };
+  host().msgBox = [&](const std::string&, int, const std::string&) {
+    if (++boxes < 5) advance(1000);
+    return static_cast<int>(Ok);
+  };
+  advance(100);
+  EXPECT_EQ(boxes, 1);
+  advance(100);
+  EXPECT_EQ(boxes, 2) << "it goes on when its own box is closed";
+}
+
+TEST_F(Timers, OfAnUnloadedFormAreDeadAtOnce) {
+  class Clock : public Form {
+   public:
+    Clock() : Form({}) {
+      Timer1.Timer = [this] { ++ticks; };
+    }
+    int ticks = 0;
+    TimerControl Timer1{*this, {.Interval = 20}};
+  };
+  Clock& clock = the<Clock>();
+  dispatch([&] {
+    Unload(clock);
+    EXPECT_FALSE(nextTimerDue().has_value());
+    // As behind a message box of the same handler.
+    advance(100);
+    EXPECT_EQ(clock.ticks, 0) << "the object lives until the handler has returned";
+  });
 }

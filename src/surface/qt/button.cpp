@@ -30,7 +30,6 @@ void drawClassicEdge(QPainter& painter, const QRect& area, bool sunken) {
 ButtonWidget::ButtonWidget(CommandButton& owner, QWidget& parent)
     : QPushButton(&parent), control(&owner) {
   setAutoDefault(false);
-  setCursor(Qt::ArrowCursor);
   QObject::connect(this, &QPushButton::clicked, this, [this] {
     if (control) dispatch([this] { control->Click(); });
   });
@@ -66,6 +65,11 @@ void ButtonWidget::paintEvent(QPaintEvent*) {
     painter.setPen(QPen(QColor(0, 0, 0, 0xA0), 1, Qt::DotLine));
     painter.drawRect(rect().adjusted(3, 3, -4, -4));
   }
+}
+
+void ButtonWidget::mousePressEvent(QMouseEvent* event) {
+  QPushButton::mousePressEvent(event);
+  if (control) dispatch([&] { control->MouseDown(toMouse(*event)); });
 }
 
 void ButtonWidget::mouseReleaseEvent(QMouseEvent* event) {

@@ -7,8 +7,8 @@
 #include "surface/qt/art.h"
 #include "surface/qt/button.h"
 #include "surface/qt/images.h"
+#include "surface/qt/pointer.h"
 #include "surface/qt/text_layout.h"
-#include "surface/qt/windowless.h"
 
 namespace surface::qt {
 namespace {
@@ -17,14 +17,21 @@ namespace {
 constexpr int Inset = 2;
 
 bool clicks(const QWidget& widget, const QMouseEvent& event) {
-  return event.button() == Qt::LeftButton && widget.rect().contains(event.position().toPoint());
+  return event.button() == Qt::LeftButton && widget.rect().contains(pixelUnder(event));
+}
+
+// The picture no larger than its place, shrunk smoothly; what is smaller stays as it is, to be
+// enlarged as squares.
+QPixmap shrunk(const QPixmap& picture, QSize place) {
+  const QSize size = picture.size().boundedTo(place);
+  if (size == picture.size() || size.isEmpty()) return picture;
+  return picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
 }  // namespace
 
 LabelWidget::LabelWidget(Label& owner, QWidget& parent) : QLabel(&parent), control(&owner) {
   setTextFormat(Qt::PlainText);
-  setCursor(Qt::ArrowCursor);
 }
 
 void LabelWidget::sync(Aspect aspect) {
@@ -61,7 +68,6 @@ void LabelWidget::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 FrameWidget::FrameWidget(Frame& owner, QWidget& parent) : QGroupBox(&parent), control(&owner) {
-  setCursor(Qt::ArrowCursor);
   makePeers(owner, *this);
 }
 
@@ -91,23 +97,12 @@ void FrameWidget::paintEvent(QPaintEvent* event) {
     painter.setPen(Qt::black);
     painter.drawText(place.left() + 2, metrics.ascent(), title);
   }
-  paintWindowless(painter, *control);
 }
 
 void FrameWidget::mousePressEvent(QMouseEvent* event) { event->accept(); }
 void FrameWidget::mouseReleaseEvent(QMouseEvent* event) { event->accept(); }
 
-void FramePeer::showPixels(const raster::Rect& area, bool atOnce) {
-  if (!widget_) return;
-  if (atOnce)
-    widget_->repaint(toQRect(area));
-  else
-    widget_->update(toQRect(area));
-}
-
-ImageWidget::ImageWidget(ImageControl& owner, QWidget& parent) : QLabel(&parent), control(&owner) {
-  setCursor(Qt::ArrowCursor);
-}
+ImageWidget::ImageWidget(ImageControl& owner, QWidget& parent) : QLabel(&parent), control(&owner) {}
 
 void ImageWidget::sync(Aspect aspect) {
   if (aspect == Aspect::Look) {
@@ -122,9 +117,8 @@ void ImageWidget::sync(Aspect aspect) {
 void ImageWidget::paintEvent(QPaintEvent*) {
   if (!control) return;
   QPainter painter(this);
-  painter.setRenderHint(QPainter::SmoothPixmapTransform);
   const QRect inner = control->Border ? rect().adjusted(2, 2, -2, -2) : rect();
-  painter.drawPixmap(inner, picture_);
+  painter.drawPixmap(inner, shrunk(picture_, inner.size()));
   if (control->Border) drawClassicEdge(painter, rect(), true);
 }
 

@@ -36,12 +36,6 @@ class FrameWidget : public QGroupBox {
   void mouseReleaseEvent(QMouseEvent* event) override;
 };
 
-class FramePeer : public WidgetPeer<FrameWidget, SurfacePeer> {
- public:
-  using WidgetPeer::WidgetPeer;
-  void showPixels(const raster::Rect& area, bool atOnce) override;
-};
-
 class ImageWidget : public QLabel {
  public:
   ImageWidget(ImageControl& owner, QWidget& parent);

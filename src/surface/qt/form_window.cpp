@@ -6,11 +6,11 @@
 #include <QPainter>
 #include <QScreen>
 #include <QWindow>
+#include <cstdlib>
 
 #include "surface/qt/peers.h"
 #include "surface/qt/pointer.h"
 #include "surface/qt/surface_widget.h"
-#include "surface/qt/windowless.h"
 
 namespace surface::qt {
 namespace {
@@ -47,11 +47,10 @@ class FormWindowPeer : public FormPeer {
   void hide() override { window_->hide(); }
   void addControl(Control& control) override { makePeerLate(control, *window_); }
   void update() override { window_->sync(); }
+  void move() override { window_->place(); }
+  void resize() override { window_->fit(); }
   void showPixels(const raster::Rect& area, bool atOnce) override {
-    if (atOnce)
-      window_->repaint(toQRect(area));
-    else
-      window_->update(toQRect(area));
+    qt::showPixels(*window_, area, atOnce);
   }
 
  private:
@@ -66,12 +65,11 @@ std::unique_ptr<FormPeer> makeFormPeer(Form& form) {
 
 FormWindow::FormWindow(Form& owner) : QWidget(nullptr, flagsOf(owner)), form(&owner) {
   setAttribute(Qt::WA_OpaquePaintEvent);
-  const raster::Rect inner = owner.innerPixels();
-  if (owner.BorderStyle == Form::Border::Sizable)
-    resize(inner.width(), inner.height());
-  else
-    setFixedSize(inner.width(), inner.height());
-  if (owner.Centred) move(screen()->availableGeometry().center() - rect().center());
+  takeSize();
+  if (owner.placed())
+    place();
+  else if (owner.Centred)
+    move(middle());
   sync();
   makePeers(owner, *this);
 }
@@ -81,7 +79,6 @@ void FormWindow::sync() {
   const QString caption = QString::fromStdString(form->Caption);
   setWindowTitle(caption.isEmpty() ? " " : caption);
   setCursor(toCursor(form->MousePointer, {}));
-  if (form->placed()) applyPlace();
   if (form->topMost() != windowFlags().testFlag(Qt::WindowStaysOnTopHint)) {
     const bool seen = isVisible();
     setWindowFlags(flagsOf(*form));
@@ -89,16 +86,31 @@ void FormWindow::sync() {
   }
 }
 
-void FormWindow::applyPlace() {
+void FormWindow::takeSize() {
   const raster::Rect inner = form->innerPixels();
   if (form->BorderStyle == Form::Border::Sizable)
     resize(inner.width(), inner.height());
   else
     setFixedSize(inner.width(), inner.height());
+}
+
+QPoint FormWindow::middle() const {
+  return screen()->availableGeometry().center() - rect().center();
+}
+
+void FormWindow::fit() {
+  // Some desktops put the inner area where the frame was asked to go.
+  const QPoint off = pos() - middle(), frame = geometry().topLeft() - pos();
+  const bool inMiddle = std::abs(off.x()) <= frame.x() && std::abs(off.y()) <= frame.y();
+  takeSize();
+  if (form->Centred && !form->placed() && inMiddle) move(middle());
+}
+
+void FormWindow::place() {
   // The place is that of the frame. A window that has just been shown has none yet: only the window
   // manager can reckon with it, or the title bar would end up beyond the screen's edge.
-  const QPoint corner(static_cast<int>(form->Left / TwipsPerPixel),
-                      static_cast<int>(form->Top / TwipsPerPixel));
+  const raster::Rect wanted = form->windowPlace();
+  const QPoint corner(wanted.left, wanted.top);
   if (windowHandle() && isVisible())
     windowHandle()->setFramePosition(corner);
   else
@@ -109,7 +121,6 @@ void FormWindow::paintEvent(QPaintEvent* event) {
   if (!form) return;
   QPainter painter(this);
   paintSurface(painter, *form, event->rect());
-  paintWindowless(painter, *form);
 }
 
 void FormWindow::closeEvent(QCloseEvent* event) {
@@ -120,7 +131,11 @@ void FormWindow::closeEvent(QCloseEvent* event) {
 
 void FormWindow::resizeEvent(QResizeEvent* event) {
   if (form && form->BorderStyle == Form::Border::Sizable)
-    form->windowResized(event->size().width(), event->size().height());
+    dispatch([&] { form->windowResized(event->size().width(), event->size().height()); });
+}
+
+void FormWindow::moveEvent(QMoveEvent*) {
+  if (form && !isMaximized()) form->windowMoved(pos().x(), pos().y());
 }
 
 void FormWindow::mouseReleaseEvent(QMouseEvent* event) {

@@ -11,8 +11,12 @@ namespace surface::qt {
 class FormWindow : public QWidget {
  public:
   explicit FormWindow(Form& owner);
-  /// Takes over caption, pointer, size, place and top-most state.
+  /// Takes over caption, pointer and top-most state.
   void sync();
+  /// Takes the form's place over.
+  void place();
+  /// Takes the form's size over; a centred window that nobody has moved stays in the middle.
+  void fit();
 
   Form* form;
 
@@ -20,10 +24,13 @@ class FormWindow : public QWidget {
   void paintEvent(QPaintEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  void moveEvent(QMoveEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:
-  void applyPlace();
+  void takeSize();
+  /// Where the window stands in the middle of the screen.
+  QPoint middle() const;
 };
 
 std::unique_ptr<FormPeer> makeFormPeer(Form& form);

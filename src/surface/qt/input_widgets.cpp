@@ -19,6 +19,22 @@ void applyColors(QWidget& widget, Color back, Color fore) {
   widget.setPalette(palette);
 }
 
+void select(QComboBox& widget, int row) { widget.setCurrentIndex(row); }
+void select(QListWidget& widget, int row) { widget.setCurrentRow(row); }
+
+template <class Widget>
+void syncList(Widget& widget, const ListControl& list, Aspect aspect) {
+  const QSignalBlocker quiet(&widget);
+  if (aspect == Aspect::Look) {
+    widget.setFont(toQFont(list.Font));
+    widget.clear();
+    for (int row = 0; row < list.ListCount(); ++row)
+      widget.addItem(QString::fromStdString(list.List(row)));
+  }
+  if (aspect == Aspect::Look || aspect == Aspect::Value) select(widget, list.ListIndex);
+  applyCommon(widget, list, aspect);
+}
+
 }  // namespace
 
 TextWidget::TextWidget(TextBox& owner, QWidget& parent) : QLineEdit(&parent), control(&owner) {
@@ -144,18 +160,7 @@ ComboWidget::ComboWidget(ComboBox& owner, QWidget& parent) : QComboBox(&parent),
   });
 }
 
-void ComboWidget::sync(Aspect aspect) {
-  const QSignalBlocker quiet(this);
-  if (aspect == Aspect::Look) {
-    setFont(toQFont(control->Font));
-    clear();
-    for (int row = 0; row < control->ListCount(); ++row)
-      addItem(QString::fromStdString(control->List(row)));
-    setCurrentIndex(control->ListIndex);
-  }
-  if (aspect == Aspect::Value) setCurrentIndex(control->ListIndex);
-  applyCommon(*this, *control, aspect);
-}
+void ComboWidget::sync(Aspect aspect) { syncList(*this, *control, aspect); }
 
 ListWidget::ListWidget(ListBox& owner, QWidget& parent) : QListWidget(&parent), control(&owner) {
   QObject::connect(this, &QListWidget::currentRowChanged, this, [this](int row) {
@@ -163,23 +168,16 @@ ListWidget::ListWidget(ListBox& owner, QWidget& parent) : QListWidget(&parent), 
   });
 }
 
-void ListWidget::sync(Aspect aspect) {
-  const QSignalBlocker quiet(this);
-  if (aspect == Aspect::Look) {
-    setFont(toQFont(control->Font));
-    clear();
-    for (int row = 0; row < control->ListCount(); ++row)
-      addItem(QString::fromStdString(control->List(row)));
-    setCurrentRow(control->ListIndex);
-  }
-  if (aspect == Aspect::Value) setCurrentRow(control->ListIndex);
-  applyCommon(*this, *control, aspect);
-}
+void ListWidget::sync(Aspect aspect) { syncList(*this, *control, aspect); }
 
 SliderWidget::SliderWidget(Slider& owner, QWidget& parent)
-    : QSlider(Qt::Horizontal, &parent), control(&owner) {
+    : QSlider(owner.Vertical ? Qt::Vertical : Qt::Horizontal, &parent), control(&owner) {
   setRange(owner.Min, owner.Max);
-  setPageStep(std::max(1, (owner.Max - owner.Min) / 5));
+  setSingleStep(owner.SmallChange);
+  setPageStep(owner.LargeChange);
+  // The toolkit would have the least value at the bottom, and the arrow keys with it.
+  setInvertedAppearance(owner.Vertical);
+  setInvertedControls(owner.Vertical);
   applyColors(*this, owner.BackColor, Black);
   QObject::connect(this, &QSlider::valueChanged, this, [this](int value) {
     if (control) dispatch([&] { control->scrolled(value); });
@@ -198,6 +196,8 @@ void SliderWidget::sync(Aspect aspect) {
 ScrollWidget::ScrollWidget(HScrollBar& owner, QWidget& parent)
     : QScrollBar(Qt::Horizontal, &parent), control(&owner) {
   setRange(owner.Min, owner.Max);
+  setSingleStep(owner.SmallChange);
+  setPageStep(owner.LargeChange);
   // The toolkit means its scroll bars for the mouse alone.
   setFocusPolicy(Qt::StrongFocus);
   setInvertedControls(false);

@@ -1,12 +1,16 @@
 // The factory of widgets, and what every widget takes over from its control.
 #include "surface/qt/peers.h"
 
+#include <QAbstractScrollArea>
 #include <algorithm>
 
+#include "surface/form.h"
 #include "surface/qt/button.h"
 #include "surface/qt/display_widgets.h"
 #include "surface/qt/input_widgets.h"
+#include "surface/qt/pointer.h"
 #include "surface/qt/surface_widget.h"
+#include "surface/qt/windowless.h"
 
 namespace surface::qt {
 namespace {
@@ -29,13 +33,28 @@ QWidget* widgetOf(const Control& control) {
   return peer ? peer->widget() : nullptr;
 }
 
+QCursor pointerOf(const Control& control) {
+  const int ruling = control.container().form().MousePointer;
+  if (ruling != PointerDefault) return toCursor(ruling, {});
+  if (const auto* box = dynamic_cast<const PictureBox*>(&control))
+    return toCursor(box->MousePointer, box->MouseIcon);
+  return toCursor(dynamic_cast<const TextBox*>(&control) ? PointerText : PointerDefault, {});
+}
+
+void applyPointer(QWidget& widget, const Control& control) {
+  const QCursor cursor = pointerOf(control);
+  widget.setCursor(cursor);
+  // What scrolls has its contents in a widget of their own, with a pointer of its own.
+  if (auto* area = qobject_cast<QAbstractScrollArea*>(&widget)) area->viewport()->setCursor(cursor);
+}
+
 }  // namespace
 
 std::unique_ptr<Peer> makePeer(Control& control, QWidget& parent) {
   std::unique_ptr<Peer> made;
   (made = tryMake<CommandButton, ButtonWidget>(control, parent)) ||
       (made = tryMake<Label, LabelWidget>(control, parent)) ||
-      (made = tryMake<Frame, FrameWidget, FramePeer>(control, parent)) ||
+      (made = tryMake<Frame, FrameWidget>(control, parent)) ||
       (made = tryMake<PictureBox, SurfaceWidget, SurfaceWidgetPeer>(control, parent)) ||
       (made = tryMake<ImageControl, ImageWidget>(control, parent)) ||
       (made = tryMake<ProgressBar, ProgressWidget>(control, parent)) ||
@@ -46,17 +65,26 @@ std::unique_ptr<Peer> makePeer(Control& control, QWidget& parent) {
       (made = tryMake<ComboBox, ComboWidget>(control, parent)) ||
       (made = tryMake<ListBox, ListWidget>(control, parent)) ||
       (made = tryMake<Slider, SliderWidget>(control, parent)) ||
-      (made = tryMake<HScrollBar, ScrollWidget>(control, parent));
+      (made = tryMake<HScrollBar, ScrollWidget>(control, parent)) ||
+      (made = tryMake<LineControl, FigureWidget>(control, parent)) ||
+      (made = tryMake<ShapeControl, FigureWidget>(control, parent));
   if (!made) return made;
-  for (const Aspect aspect :
-       {Aspect::Place, Aspect::Look, Aspect::Value, Aspect::Enabled, Aspect::Visibility})
+  for (const Aspect aspect : {Aspect::Place, Aspect::Look, Aspect::Pointer, Aspect::Value,
+                              Aspect::Enabled, Aspect::Visibility})
     made->update(aspect);
   return made;
 }
 
+void showPixels(QWidget& widget, const raster::Rect& area, bool atOnce) {
+  if (atOnce)
+    widget.repaint(toQRect(area));
+  else
+    widget.update(toQRect(area));
+}
+
 void makePeers(const Container& container, QWidget& parent) {
   for (Control* control : container.controls())
-    if (control->Visible && !control->windowless()) control->setPeer(makePeer(*control, parent));
+    if (control->Visible) control->setPeer(makePeer(*control, parent));
 }
 
 void makePeerLate(Control& control, QWidget& window) {
@@ -94,6 +122,9 @@ void applyCommon(QWidget& widget, const Control& control, Aspect aspect,
       widget.setAccessibleDescription(tip);
       break;
     }
+    case Aspect::Pointer:
+      applyPointer(widget, control);
+      break;
     case Aspect::Value:
       break;
   }

@@ -17,7 +17,10 @@ inline QColor toQColor(Color color) { return QColor::fromRgb(toPixel(color)); }
 
 inline QRect toQRect(const raster::Rect& r) { return QRect(r.left, r.top, r.width(), r.height()); }
 
-/// Makes the widget of a control inside `parent`; the windowless kinds have none.
+/// Shows a rectangle of pixels, now or when the thread is next idle.
+void showPixels(QWidget& widget, const raster::Rect& area, bool atOnce);
+
+/// Makes the widget of a control inside `parent`.
 std::unique_ptr<Peer> makePeer(Control& control, QWidget& parent);
 
 /// Makes the widgets of all controls of a container that are visible by themselves.
@@ -26,7 +29,7 @@ void makePeers(const Container& container, QWidget& parent);
 /// neighbours; nothing if its container has no widget yet. `window` is the form's.
 void makePeerLate(Control& control, QWidget& window);
 
-/// Takes place, visibility, enabled state, tooltip and spoken name over to a widget.
+/// Takes place, visibility, enabled state, pointer, tooltip and spoken name over to a widget.
 void applyCommon(QWidget& widget, const Control& control, Aspect aspect,
                  const QString& spokenText = {});
 

@@ -2,9 +2,14 @@
 #include "surface/qt/pointer.h"
 
 #include "surface/controls.h"
+#include "surface/numbers.h"
 #include "surface/qt/art.h"
 
 namespace surface::qt {
+
+QPoint pixelUnder(const QMouseEvent& event) {
+  return {static_cast<int>(Int(event.position().x())), static_cast<int>(Int(event.position().y()))};
+}
 
 Mouse toMouse(const QMouseEvent& event) {
   const bool move = event.type() == QEvent::MouseMove;
@@ -15,7 +20,7 @@ Mouse toMouse(const QMouseEvent& event) {
   const Qt::KeyboardModifiers keys = event.modifiers();
   mouse.Shift = (keys & Qt::ShiftModifier ? 1 : 0) | (keys & Qt::ControlModifier ? 2 : 0) |
                 (keys & Qt::AltModifier ? 4 : 0);
-  const QPoint at = event.position().toPoint();
+  const QPoint at = pixelUnder(event);
   mouse.X = static_cast<float>(at.x() * TwipsPerPixel);
   mouse.Y = static_cast<float>(at.y() * TwipsPerPixel);
   return mouse;
@@ -23,7 +28,7 @@ Mouse toMouse(const QMouseEvent& event) {
 
 Mouse toMouse(const QMouseEvent& event, const DrawingSurface& surface) {
   Mouse mouse = toMouse(event);
-  const QPoint at = event.position().toPoint();
+  const QPoint at = pixelUnder(event);
   const PointF place = surface.toScale(at.x(), at.y());
   mouse.X = place.X;
   mouse.Y = place.Y;

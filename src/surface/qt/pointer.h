@@ -16,6 +16,9 @@ Mouse toMouse(const QMouseEvent& event, const DrawingSurface& surface);
 /// The same on a control without a scale of its own: positions in twips.
 Mouse toMouse(const QMouseEvent& event);
 
+/// The pixel of the widget that the pointer is on; a position may be a fraction.
+QPoint pixelUnder(const QMouseEvent& event);
+
 /// The cursor of a MousePointer value; 99 is the named cursor picture.
 QCursor toCursor(int pointer, const std::string& icon);
 

@@ -8,7 +8,6 @@
 
 #include "surface/qt/images.h"
 #include "surface/qt/pointer.h"
-#include "surface/qt/windowless.h"
 
 namespace surface::qt {
 namespace {
@@ -38,16 +37,12 @@ SurfaceWidget::SurfaceWidget(PictureBox& owner, QWidget& parent)
   makePeers(owner, *this);
 }
 
-void SurfaceWidget::sync(Aspect aspect) {
-  if (aspect == Aspect::Look) setCursor(toCursor(control->MousePointer, control->MouseIcon));
-  applyCommon(*this, *control, aspect);
-}
+void SurfaceWidget::sync(Aspect aspect) { applyCommon(*this, *control, aspect); }
 
 void SurfaceWidget::paintEvent(QPaintEvent* event) {
   if (!control) return;
   QPainter painter(this);
   paintSurface(painter, *control, event->rect());
-  paintWindowless(painter, *control);
 }
 
 void SurfaceWidget::mousePressEvent(QMouseEvent* event) {
@@ -66,17 +61,9 @@ void SurfaceWidget::mouseMoveEvent(QMouseEvent* event) {
 void SurfaceWidget::mouseReleaseEvent(QMouseEvent* event) {
   event->accept();
   if (control) dispatch([&] { control->MouseUp(toMouse(*event, *control)); });
-  const bool inside = rect().contains(event->position().toPoint());
+  const bool inside = rect().contains(pixelUnder(*event));
   if (control && inside && event->button() == Qt::LeftButton)
     dispatch([this] { control->Click(); });
-}
-
-void SurfaceWidgetPeer::showPixels(const raster::Rect& area, bool atOnce) {
-  if (!widget_) return;
-  if (atOnce)
-    widget_->repaint(toQRect(area));
-  else
-    widget_->update(toQRect(area));
 }
 
 }  // namespace surface::qt

@@ -26,7 +26,9 @@ class SurfaceWidget : public QWidget {
 class SurfaceWidgetPeer : public WidgetPeer<SurfaceWidget, SurfacePeer> {
  public:
   using WidgetPeer::WidgetPeer;
-  void showPixels(const raster::Rect& area, bool atOnce) override;
+  void showPixels(const raster::Rect& area, bool atOnce) override {
+    if (widget_) qt::showPixels(*widget_, area, atOnce);
+  }
 };
 
 /// Paints a surface's bitmap, or its bare colour as long as nothing was drawn.

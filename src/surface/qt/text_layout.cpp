@@ -2,7 +2,9 @@
 #include "surface/qt/text_layout.h"
 
 #include <QPainter>
-#include <cmath>
+#include <algorithm>
+
+#include "surface/numbers.h"
 
 namespace surface::qt {
 namespace {
@@ -48,7 +50,7 @@ QFont toQFont(const Font& font) {
   // The metric-alike family comes first where the named one is not installed.
   if (font.Name == "Arial") result.setFamilies({"Arial", "Liberation Sans"});
   if (font.Name == "Verdana") result.setFamilies({"Verdana", "DejaVu Sans"});
-  result.setPixelSize(std::max(1, static_cast<int>(std::lround(font.Size * 96 / 72))));
+  result.setPixelSize(std::max(1, static_cast<int>(roundEven(font.Size * 96 / 72))));
   result.setBold(font.Bold);
   result.setItalic(font.Italic);
   result.setUnderline(font.Underline);

@@ -8,6 +8,7 @@
 #include <QFileInfo>
 #include <QLocale>
 #include <QRandomGenerator>
+#include <QScreen>
 #include <QStandardPaths>
 #include <QTimer>
 #include <algorithm>
@@ -99,6 +100,10 @@ void install() {
   seams.setClipboard = setClipboard;
   seams.getClipboard = getClipboard;
   seams.rasterText = rasterText;
+  seams.screen = [] {
+    const QSize size = QGuiApplication::primaryScreen()->size();
+    return raster::Rect{0, 0, size.width(), size.height()};
+  };
   seams.clock = milliseconds;
   seams.seed = [] { return QRandomGenerator::global()->generate64(); };
   seams.timersChanged = scheduleTimers;

@@ -10,9 +10,9 @@ namespace surface::qt {
 namespace {
 
 void paintLine(QPainter& painter, const LineControl& line) {
-  const raster::Rect ends = line.pixelEnds();
+  const LineEnds ends = line.pixelEnds();
   painter.setPen(QPen(toQColor(line.BorderColor), line.BorderWidth, Qt::SolidLine, Qt::FlatCap));
-  painter.drawLine(ends.left, ends.top, ends.right, ends.bottom);
+  painter.drawLine(ends.x1, ends.y1, ends.x2, ends.y2);
 }
 
 void paintShape(QPainter& painter, const ShapeControl& shape) {
@@ -29,12 +29,22 @@ void paintShape(QPainter& painter, const ShapeControl& shape) {
 
 }  // namespace
 
-void paintWindowless(QPainter& painter, const Container& container) {
-  for (const Control* control : container.controls()) {
-    if (!control->windowless() || !control->Visible) continue;
-    if (const auto* line = dynamic_cast<const LineControl*>(control)) paintLine(painter, *line);
-    if (const auto* shape = dynamic_cast<const ShapeControl*>(control)) paintShape(painter, *shape);
-  }
+FigureWidget::FigureWidget(Control& owner, QWidget& parent) : QWidget(&parent), control(&owner) {
+  setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+void FigureWidget::sync(Aspect) {
+  setGeometry(toQRect(control->paintedPixels()));
+  setVisible(control->Visible);
+  update();
+}
+
+void FigureWidget::paintEvent(QPaintEvent*) {
+  if (!control) return;
+  QPainter painter(this);
+  painter.translate(-pos());
+  if (const auto* line = dynamic_cast<const LineControl*>(control)) paintLine(painter, *line);
+  if (const auto* shape = dynamic_cast<const ShapeControl*>(control)) paintShape(painter, *shape);
 }
 
 }  // namespace surface::qt

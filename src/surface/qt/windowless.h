@@ -1,16 +1,22 @@
-// The line and shape controls, which have no widget: their container paints them above its own
-// image.
+// The widget of the line and shape controls: nothing but their dots, above the widgets declared
+// before it and out of the pointer's reach.
 #pragma once
 
-class QPainter;
+#include <QWidget>
 
-namespace surface {
-class Container;
-}
+#include "surface/control.h"
 
 namespace surface::qt {
 
-/// Paints the visible windowless controls of a container, in the order of their declaration.
-void paintWindowless(QPainter& painter, const Container& container);
+class FigureWidget : public QWidget {
+ public:
+  FigureWidget(Control& owner, QWidget& parent);
+  void sync(Aspect aspect);
+
+  Control* control;
+
+ protected:
+  void paintEvent(QPaintEvent*) override;
+};
 
 }  // namespace surface::qt

@@ -42,9 +42,9 @@ struct Part {
 /// is at least 1 / 2n > 2^-18 away from a whole number. The slope is rounded up, in all by less
 /// than 2^-22. So a nudge of 2^-20 outweighs all rounding and moves nothing but the ties: those go
 /// to the smaller coordinate, whatever the direction.
-class Course {
+class LineCourse {
  public:
-  Course(int x1, int y1, int x2, int y2) {
+  LineCourse(int x1, int y1, int x2, int y2) {
     const int dx = x2 - x1, dy = y2 - y1;
     const int left = dx >> 31, up = dy >> 31;
     xSign_ = left | 1;
@@ -108,7 +108,7 @@ class Course {
 
 /// Calls plot(pixel, i) for the steps of a part in order.
 template <class Plot>
-inline void walk(Bitmap& bitmap, const Course& course, const Part& part, int x1, int y1,
+inline void walk(Bitmap& bitmap, const LineCourse& course, const Part& part, int x1, int y1,
                  Plot plot) {
   const std::ptrdiff_t stride = bitmap.width();
   const std::ptrdiff_t along = course.along(stride), aside = course.aside(stride);
@@ -127,14 +127,14 @@ inline void walk(Bitmap& bitmap, const Course& course, const Part& part, int x1,
 template <class Plot>
 inline void draw(Bitmap& bitmap, int x1, int y1, int x2, int y2, Plot plot) {
   if (x1 == x2 && y1 == y2) return;
-  const Course course(x1, y1, x2, y2);
+  const LineCourse course(x1, y1, x2, y2);
   const Part part = course.visible(bitmap, x1, y1);
   if (part.first <= part.last) walk(bitmap, course, part, x1, y1, plot);
 }
 
 /// A line that lies on the bitmap in one colour: walk() with nothing but what the pixels need.
 template <bool kFetch>
-inline void copySteps(Bitmap& bitmap, Pixel color, const Course& course, int x, int y) {
+inline void copySteps(Bitmap& bitmap, Pixel color, const LineCourse& course, int x, int y) {
   const std::ptrdiff_t stride = bitmap.width();
   const std::ptrdiff_t along = course.along(stride), both = along + course.aside(stride);
   Pixel* p = bitmap.row(y) + x;
@@ -170,7 +170,7 @@ inline void storeEnds(Pixel* first, Pixel* behind, Pixel color) {
 /// ends behind the pixel at (k + 1/2) n / d, rounded down; ties as for the heights, of which this
 /// is the course with its axes exchanged. All runs but the outer two have one of two lengths.
 template <class Paint>
-inline void paintRuns(Pixel* p, const Course& course, std::ptrdiff_t aside, bool leftwards,
+inline void paintRuns(Pixel* p, const LineCourse& course, std::ptrdiff_t aside, bool leftwards,
                       Pixel color, Paint paintInner) {
   const Wide advance = course.length * kOne / course.rise + 1;
   Wide end = advance / 2 + kOne + (course.climbs ? kNudge : -kNudge);
@@ -195,7 +195,7 @@ inline void paintRuns(Pixel* p, const Course& course, std::ptrdiff_t aside, bool
   step(paintOuter);
 }
 
-void copyFlatLine(Bitmap& bitmap, Pixel color, const Course& course, int x, int y) {
+void copyFlatLine(Bitmap& bitmap, Pixel color, const LineCourse& course, int x, int y) {
   const bool leftwards = course.along(0) < 0;
   Pixel* const p = bitmap.row(y) + x;
   if (course.rise == 0) {
@@ -222,7 +222,7 @@ Rect copyThinLine(Bitmap& bitmap, Pixel color, int x1, int y1, int x2, int y2) {
   // Nearly all lines lie on the sheet, and most are a few pixels long: there every instruction
   // that is not for a pixel counts.
   if (bitmap.contains(x1, y1) && bitmap.contains(x2, y2)) {
-    const Course course(x1, y1, x2, y2);
+    const LineCourse course(x1, y1, x2, y2);
     if (course.length < Reciprocals::kCount) {
       copySteps<false>(bitmap, color, course, x1, y1);
     } else if (course.isFlat()) {
