@@ -1,12 +1,23 @@
-"""Judges colouring pages: size, two colours, areas to colour, crumbs. `check.py NN... [--flood DIR]` also floods every area
-in a colour of its own and writes DIR/NN.png, which shows leaks and crumbs at once. Exit status 1 if a page fails."""
+"""Judges colouring pages: size, two colours, areas to colour, crumbs, inked corners, lines that stop short. `check.py NN...
+[--flood DIR]` also floods every area in a colour of its own and writes DIR/NN.png, which shows leaks and crumbs at once.
+Exit status 1 if a page fails. `tests/art/break_pages.py` shows each check a page that it must refuse."""
 import pathlib
+import re
 import sys
 
+import numpy
 from PIL import Image
 
 PAGES = pathlib.Path(__file__).resolve().parent.parent / "Beeld"
+SOURCES = pathlib.Path(__file__).resolve().parent / "pages"
 SMALLEST = 60       # pixels of an area that a child can hit
+FEWEST = 35         # areas of a page
+MOST = 70           # and at most; 60 are better
+# Pages from before these rules: at most 90 areas, inked corners and short lines are not looked for.
+FORMER = set("01 02 03 06 07 08 09 10 12 13 14 15 17 18 19 20 21 22 23 24 25 26 28 29 "
+             "30 31 32 33 34 35 36 37 38 40 41 43 44 45 46 47 49 51 52 54 56 57 58 59".split())
+PATCH = 9           # black may not be wider (two lines that part are 8 together), but for pupils, noses and buttons
+GAP = 7             # a line that ends so near to another one looks as if it had been meant to reach it
 HUES = [(230, 57, 70), (255, 210, 63), (87, 185, 71), (47, 125, 225), (255, 140, 66), (142, 91, 208), (31, 163, 196),
         (255, 158, 187), (165, 103, 47), (191, 227, 255), (46, 139, 61), (246, 223, 164), (185, 190, 201), (180, 230, 120)]
 
@@ -33,6 +44,138 @@ def areas(pixels, width, height):
     return found
 
 
+def shifted(mask, dx, dy):
+    """The mask, moved; what comes in from outside is False."""
+    out = numpy.zeros_like(mask)
+    h, w = mask.shape
+    out[max(dy, 0):h + min(dy, 0), max(dx, 0):w + min(dx, 0)] = mask[max(-dy, 0):h - max(dy, 0), max(-dx, 0):w - max(dx, 0)]
+    return out
+
+
+def groups(mask):
+    """The 8-connected groups of a mask with few pixels, as lists of (x, y)."""
+    left, found = {(int(x), int(y)) for y, x in zip(*mask.nonzero())}, []
+    while left:
+        stack, group = [left.pop()], []
+        while stack:
+            x, y = stack.pop()
+            group.append((x, y))
+            for to in [(x + i, y + j) for i in (-1, 0, 1) for j in (-1, 0, 1)]:
+                if to in left:
+                    left.remove(to)
+                    stack.append(to)
+        found.append(group)
+    return found
+
+
+def inked(black, spots=()):
+    """The middles of black patches wider than PATCH that are no pupil, nose or button. Such a spot stands alone or leans on one
+    line, or is large and an ellipse; from an inked corner three lines or more go out, and an inked sliver is longer than any nose. `spots`: the boxes of those that the source declares."""
+    r = (PATCH + 1) // 2
+    disc = [(x, y) for x in range(-r, r + 1) for y in range(-r, r + 1) if x * x + y * y <= PATCH * PATCH / 4]
+    core = black.copy()
+    for x, y in disc:
+        core &= shifted(black, x, y)
+    found = []
+    for group in groups(core):
+        patch = numpy.zeros_like(black)
+        for x, y in group:
+            patch[y, x] = True
+        solid = numpy.zeros_like(black)
+        for x, y in disc:
+            solid |= shifted(patch, x, y)
+        inner, outer = solid, solid
+        for ring in range(4):
+            grown = outer.copy()
+            for x, y in ((1, 0), (-1, 0), (0, 1), (0, -1)):
+                grown |= shifted(outer, x, y)
+            inner, outer = outer, grown
+        exits = [g for g in groups(outer & ~inner & black) if len(g) > 1]
+        wide, high = (max(p[i] for p in group) - min(p[i] for p in group) for i in (0, 1))
+        x, y = (sum(p[i] for p in group) // len(group) for i in (0, 1))
+        ys, xs = solid.nonzero()
+        round_one = len(group) > 11 and len(xs) > .96 * 4 * numpy.pi * numpy.sqrt(max(0, numpy.linalg.det(numpy.cov(xs, ys))))
+        edge = x < 12 or y < 12 or x > black.shape[1] - 13 or y > black.shape[0] - 13
+        known = any(left <= x <= right and top <= y <= bottom for left, top, right, bottom in spots)
+        if not edge and not known and (max(wide, high) > 36 or len(exits) > 2 and not round_one):
+            found.append((x, y))
+    return found
+
+
+def declared(svg):
+    """The boxes of the solid black shapes (class "spot") of a page's source; none may be larger than a nose."""
+    boxes = []
+    if not svg.exists():
+        return boxes
+    for path in re.findall(r'<path class="spot"[^>]* d="([^"]*)"', svg.read_text()):
+        n = [float(v) for v in re.findall(r"-?[\d.]+", path)]
+        box = min(n[::2]) - 4, min(n[1::2]) - 4, max(n[::2]) + 4, max(n[1::2]) + 4
+        if max(box[2] - box[0], box[3] - box[1]) <= 52:
+            boxes.append(box)
+    return boxes
+
+
+def skeleton(black):
+    """The middle lines of the black, one pixel thick (thinning by Zhang and Suen, 1984)."""
+    thin = black.copy()
+    thin[0, :] = thin[-1, :] = thin[:, 0] = thin[:, -1] = False
+    changed = True
+    while changed:
+        changed = False
+        for second in (False, True):
+            n = [shifted(thin, *d) for d in ((0, 1), (-1, 1), (-1, 0), (-1, -1), (0, -1), (1, -1), (1, 0), (1, 1))]
+            count = sum(v.astype(numpy.int8) for v in n)
+            turns = sum((~n[i] & n[(i + 1) % 8]).astype(numpy.int8) for i in range(8))
+            up, right, down, left = n[0], n[2], n[4], n[6]
+            free = ~(up & right & left) & ~(up & down & left) if second else ~(up & right & down) & ~(right & down & left)
+            drop = thin & (count >= 2) & (count <= 6) & (turns == 1) & free
+            if drop.any():
+                thin &= ~drop
+                changed = True
+    return thin
+
+
+def short_ends(black):
+    """Where a line stops 1 to GAP pixels before another one."""
+    thin = skeleton(black)
+    on = {(int(x), int(y)) for y, x in zip(*thin.nonzero())}
+    near = lambda p: [(p[0] + i, p[1] + j) for i in (-1, 0, 1) for j in (-1, 0, 1) if (i or j) and (p[0] + i, p[1] + j) in on]
+    found = []
+    for end in on:
+        if len(near(end)) != 1:
+            continue
+        walk, at = [end], near(end)[0]
+        while len(walk) < 12:
+            walk.append(at)
+            onward = [p for p in near(at) if p not in walk and all(abs(p[0] - q[0]) > 1 or abs(p[1] - q[1]) > 1 for q in walk[:-1])]
+            if len(onward) != 1:
+                break
+            at = onward[0]
+        if len(walk) < 9:
+            continue                    # no line: the edge of a spot, or a corner of two lines
+        dx, dy = end[0] - walk[-1][0], end[1] - walk[-1][1]
+        long = (dx * dx + dy * dy) ** .5 or 1
+        dx, dy = dx / long, dy / long
+        for turn in (0, .35, -.35):
+            tx, ty = dx - dy * turn, dy + dx * turn
+            run, gap = 0, 0
+            while run < 8 + GAP + 4:
+                run += 1
+                x, y = round(end[0] + tx * run), round(end[1] + ty * run)
+                if not (0 <= x < black.shape[1] and 0 <= y < black.shape[0]):
+                    break
+                if not black[y, x]:
+                    gap += 1
+                elif gap:
+                    if gap <= GAP and run < 8 + GAP:
+                        found.append(end)
+                    break
+            if found and found[-1] == end:
+                break
+    return found
+
+
+
 def judge(path, flood_dir):
     image = Image.open(path)
     width, height = image.size
@@ -47,7 +190,8 @@ def judge(path, flood_dir):
     found = areas(pixels, width, height)
     large = [a for a in found if len(a) >= SMALLEST]
     crumbs = [a for a in found if len(a) < SMALLEST]
-    if not 15 <= len(large) <= 90:
+    former = path.stem in FORMER
+    if not (15 if former else FEWEST) <= len(large) <= (90 if former else MOST):
         faults.append("too few or too many areas")
     if len(crumbs) > 6:
         faults.append("too many crumbs")
@@ -57,7 +201,13 @@ def judge(path, flood_dir):
     black = 1 - sum(pixels) / len(pixels)
     if not 0.06 <= black <= 0.30:
         faults.append(f"black {black:.0%}")
-    where = " ".join(f"({a[0] % width},{a[0] // width})" for a in crumbs[:8])
+    if not former:
+        mask = ~numpy.array(pixels, dtype=bool).reshape(height, width)
+        if spots := inked(mask, declared(SOURCES / f"{path.stem}.svg")):
+            faults.append(f"inked corners {spots}")
+        if ends := short_ends(mask):
+            faults.append(f"lines stop short {ends}")
+    where = " ".join(f"({a[0] % width},{a[0] // width})" for a in crumbs[:30])
     print(f"{path.stem}: {len(large)} areas, {len(crumbs)} crumbs {where}, largest {biggest:.0%}, black {black:.0%}"
           + ("  FAULTS: " + "; ".join(faults) if faults else "  ok"))
     if flood_dir:
@@ -84,4 +234,5 @@ def main(args):
     return 0 if all([judge(p, flood_dir) for p in paths]) else 1
 
 
-sys.exit(main(sys.argv[1:]))
+if __name__ == "__main__":
+    sys.exit(main(sys.argv[1:]))

@@ -32,10 +32,31 @@ def on_white(image):
     return Image.alpha_composite(white, image).convert("RGB")
 
 
+def ink_specks(bits):
+    """Fills white specks of fewer than 12 pixels, as they are left where two lines meet: no child can hit them."""
+    put, (width, height), seen = bits.load(), bits.size, set()
+    for start in ((x, y) for y in range(height) for x in range(width)):
+        if not put[start] or start in seen:
+            continue
+        stack, area = [start], {start}
+        while stack and len(area) < 12:
+            x, y = stack.pop()
+            for to in ((x - 1, y), (x + 1, y), (x, y - 1), (x, y + 1)):
+                if 0 <= to[0] < width and 0 <= to[1] < height and put[to] and to not in area:
+                    area.add(to)
+                    stack.append(to)
+        if stack or len(area) >= 12:
+            seen |= area
+        else:
+            for at in area:
+                put[at] = 0
+
+
 def page(svg):
     """A colouring page: drawn four times as large, each pixel black if at least half of it is, two colours exactly."""
     big = on_white(rasterise(svg, 617 * 4, 537 * 4)).convert("L")
     small = big.resize((617, 537), Image.BOX).point(lambda v: 0 if v < 128 else 1)
+    ink_specks(small)
     two = small.convert("P")
     two.putpalette([0, 0, 0, 255, 255, 255])
     two.save(PAGES / (svg.stem + ".gif"), optimize=False)

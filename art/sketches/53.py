@@ -1,0 +1,74 @@
+from hand import *
+from people import *
+
+p = Page("53", "Here comes the train: the cow on the track chews on, nose to the buffer; the driver waves, children look over the gate")
+
+p.note("hills and sky")
+p.shape("-10 330!, 90 270, 210 300, 330 240, 470 290, 640 230!, 640 560!, -10 560!")
+p.shape(scallops("20 60, 60 30, 120 40, 170 22, 214 44, 206 84, 150 92, 90 84, 40 96", 11, .4))
+p.shape(scallops("214 132, 236 112, 268 114, 272 136, 246 148, 222 148", 7, .4))
+
+p.note("track")
+train = p.at(0, -34)
+train.__enter__()
+p.line("-10 446, 640 446", 5)
+
+p.note("engine from the side, driving to the left")
+with p.at(0, 0):
+    p.shape("440 120!, 606 120!, 600 386!, 446 386!")
+    p.shape("424 96!, 434 120!, 616 120!, 626 96!, 524 84")
+    p.shape("470 150!, 574 150!, 574 252!, 470 252!")
+    p.note("driver")
+    with p.at(522, 222, .78, flip=True):
+        head(p, "34", "bald", mouth="open", brows=None)
+        p.shape("-54 -8, -50 -42, -10 -62, 34 -50, 42 -24!, 66 -14, 40 -12, 10 -20, -30 -16")
+    p.shape("456 252!, 588 252!, 588 386!, 456 386!")
+    p.note("boiler, chimney, dome")
+    p.shape("254 168!, 262 112, 244 84!, 318 84!, 302 112, 310 168!")
+    p.shape("236 66!, 326 66!, 326 86!, 236 86!")
+    p.shape("356 172!, 358 138, 384 124, 410 138, 412 172!")
+    p.shape("226 180!, 240 166!, 456 166!, 456 336!, 240 336!, 226 322!")
+    p.shape("206 176!, 234 170!, 234 332!, 206 326!, 198 250")
+    p.shape("202 336!, 610 336!, 610 372!, 202 372!")
+    p.shape("176 352!, 204 344!, 204 388!, 176 380!, 170 366")
+    p.one(arm("492 266, 448 252, 424 206", 32, 28, 24, thumb=1), join=(494, 266, 21))
+    p.note("wheels and one rod")
+    for x in (262, 384, 516):
+        p.shape(oval(x, 394, 50))
+    p.shape(limb("262 406, 516 406", 20, 20))
+    for x in (262, 384, 516):
+        p.shape(oval(x, 406, 7))
+    p.shape("198 376!, 176 430!, 216 438!, 214 380!")
+
+p.note("cow on the track, nose to the buffer")
+with p.at(92, 330):
+    p.shape(limb("-52 50, -54 84, -52 112", 34, 28, flat=True))
+    p.shape(limb("26 54, 24 84, 26 112", 34, 28, flat=True))
+    p.one("-104 -40, -60 -54, 0 -44, 30 -60, 46 -74, 76 -64, 84 -34, 78 -2, 62 14, 44 16, 40 44, 10 60, -60 62, -104 50, -116 0",
+          limb("-86 40, -88 80, -86 116", 42, 30, flat=True), limb("4 44, 2 80, 0 116", 40, 28, flat=True))
+    p.shape("48 -10, 84 -16, 96 6, 84 28, 58 30, 44 12")
+    p.line("50 20, 66 22, 82 14")
+    p.spot(80, 0, 4.5)
+    p.eye(64, -42, 6)
+    p.shape("34 -66!, 26 -98, 40 -86, 52 -74!")
+    p.shape("30 -48, 8 -70, -4 -56, 10 -40, 26 -36")
+    p.shape("-70 -30, -36 -34, -24 -8, -44 14, -74 8, -84 -12")
+    p.shape("-14 14, 14 6, 24 24, 8 42, -16 36")
+    p.line("96 6, 112 16, 116 34")
+    p.shape("110 32, 118 28, 126 36, 120 46, 110 42")
+    p.shape("-100 116!, -98 130!, -72 130!, -70 116!")
+    p.shape("-14 116!, -12 130!, 14 130!, 16 116!")
+
+train.__exit__(None, None, None)
+p.note("children at the gate, in front")
+for x, hair, t in ((372, "tails", 0), (476, "curly", 0)):
+    with p.at(x, 466, .78, flip=True):
+        p.one("-50 100!, -44 64, -20 50, 20 50, 44 64, 50 100!")
+        if hair == "curly":
+            head(p, "34", hair, mouth="open", brows=4)
+        else:
+            head(p, "side", hair, mouth="open", brows=4, r=6)
+p.shape("296 500!, 560 500!, 560 560!, 296 560!")
+p.shape("290 496!, 308 478!, 326 496!, 326 560!, 290 560!")
+p.shape("540 496!, 558 478!, 576 496!, 576 560!, 540 560!")
+p.save()
