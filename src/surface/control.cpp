@@ -41,6 +41,7 @@ Control::Control(Container& container, const Place& place, bool visible)
       Visible(*this, visible),
       Enabled(*this, true),
       ToolTipText(*this, {}),
+      Pressed(*this, false),
       container_(container) {
   container.controls_.push_back(this);
 }

@@ -60,6 +60,8 @@ class Control {
   Prop<bool, &Control::visibilityChanged> Visible;
   Prop<bool, &Control::enabledChanged> Enabled;
   Prop<std::string, &Control::lookChanged> ToolTipText;
+  /// Looks held down: the chosen one of several buttons, or of several raised surfaces.
+  Prop<bool, &Control::lookChanged> Pressed;
   int Index = 0;  ///< within a control array
 
   void SetFocus();

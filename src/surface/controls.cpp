@@ -30,7 +30,8 @@ CommandButton::CommandButton(Container& container, const Design& d)
       Caption(*this, d.Caption),
       Picture(*this, d.Picture),
       BackColor(*this, d.BackColor),
-      Font(*this, d.Font) {
+      Font(*this, d.Font),
+      Shortcut(d.Shortcut) {
   ToolTipText.setQuietly(d.ToolTipText);
   Enabled.setQuietly(d.Enabled);
 }
@@ -55,7 +56,8 @@ TextBox::TextBox(Container& container, const Design& d)
       MaxLength(d.MaxLength),
       Border(d.Border),
       Centred(d.Centred),
-      MultiLine(d.MultiLine) {
+      MultiLine(d.MultiLine),
+      Shrinks(d.Shrinks) {
   ToolTipText.setQuietly(d.ToolTipText);
 }
 
@@ -273,7 +275,8 @@ PictureBox::PictureBox(Container& container, const Design& d)
     : Control(container, {d.Left, d.Top, d.Width, d.Height}, d.Visible),
       DrawingSurface(d.BackColor, d.ScaleMode, d.UserScale),
       MousePointer(*this, d.MousePointer),
-      MouseIcon(*this, {}) {
+      MouseIcon(*this, {}),
+      Raised(d.Raised) {
   AutoRedraw = d.AutoRedraw;
   Font = d.Font;
   ToolTipText.setQuietly(d.ToolTipText);

@@ -31,6 +31,8 @@ class CommandButton : public Control {
     std::string ToolTipText = {};
     Color BackColor = ButtonFace;
     surface::Font Font = {};
+    /// A key that presses it too, such as "Ctrl+Z" or "F1"; in a text box the text comes first.
+    std::string Shortcut = {};
     bool Enabled = true, Visible = true;
   };
   CommandButton(Container& container, const Design& design);
@@ -39,11 +41,14 @@ class CommandButton : public Control {
   Prop<std::string, &CommandButton::lookChanged> Picture;
   Prop<Color, &CommandButton::lookChanged> BackColor;
   FontProp<&CommandButton::lookChanged> Font;
+  const std::string Shortcut;
   Event<> Click;
   Event<Mouse> MouseDown, MouseUp;
 };
 
-/// A text that wraps within its width; runs of blanks are kept, since they break the lines.
+/// A text that wraps within its width; runs of blanks are kept, since they break the lines. With
+/// NoColor as its BackColor what lies beneath shows between the letters. An empty one is spoken by
+/// its tooltip.
 class Label : public Control {
  public:
   struct Design {
@@ -76,6 +81,8 @@ class TextBox : public Control {
     Color BackColor = White, ForeColor = Black;
     surface::Font Font = {};
     int MaxLength = 0;  ///< characters, 0 = any number
+    /// A text wider than the box is shown in smaller letters, so that all of it can be seen.
+    bool Shrinks = false;
     bool Locked = false, Border = true, Centred = false, MultiLine = false, Visible = true;
   };
   TextBox(Container& container, const Design& design);
@@ -86,7 +93,7 @@ class TextBox : public Control {
   FontProp<&TextBox::lookChanged> Font;
   Prop<bool, &TextBox::lookChanged> Locked;
   const int MaxLength;
-  const bool Border, Centred, MultiLine;
+  const bool Border, Centred, MultiLine, Shrinks;
   Event<> Change;
 
   /// From the widget: the user has typed.
@@ -377,6 +384,7 @@ class PictureBox : public Control, public DrawingSurface {
     Color BackColor = ButtonFace, FillColor = Black;
     surface::Font Font = {};
     int MousePointer = PointerDefault;
+    bool Raised = false;  ///< looks like a button: an edge above its pixels
     bool Visible = true;
   };
   PictureBox(Container& container, const Design& design);
@@ -384,6 +392,7 @@ class PictureBox : public Control, public DrawingSurface {
   Prop<int, &PictureBox::pointerChanged> MousePointer;
   /// The name of the cursor shown at 99: assign a cursor image's PictureName.
   Prop<std::string, &PictureBox::pointerChanged> MouseIcon;
+  const bool Raised;
   Event<> Click;
   Event<Mouse> MouseDown, MouseMove, MouseUp;
 

@@ -15,8 +15,6 @@ namespace {
 // Far beyond any sheet, and what the raster takes: a coordinate out here is as good as any further
 // one.
 constexpr double CoordinateLimit = 32767;
-constexpr int LargestSide = 32767;
-constexpr std::int64_t MostPixels = 64'000'000;
 
 [[gnu::cold]] int farCoordinate(double value) {
   if (std::isnan(value)) throw RuntimeError(ErrorKind::Overflow, "Overflow");
@@ -221,6 +219,18 @@ std::shared_ptr<const raster::Bitmap> DrawingSurface::bitmap() const {
   return bitmap_;
 }
 
+bool DrawingSurface::holdsDrawing() const {
+  if (blank()) return false;
+  const auto pixels = bitmap();
+  const raster::Pixel background = toPixel(BackColor);
+  for (int y = 0; y < pixels->height(); ++y) {
+    const raster::Pixel* row = pixels->row(y);
+    if (std::any_of(row, row + pixels->width(), [=](raster::Pixel p) { return p != background; }))
+      return true;
+  }
+  return false;
+}
+
 raster::Bitmap& DrawingSurface::writableBitmap() {
   if (bitmap_.use_count() != 1) {
     if (!bitmap_) bitmap_ = composed();
@@ -231,7 +241,7 @@ raster::Bitmap& DrawingSurface::writableBitmap() {
 }
 
 std::shared_ptr<const raster::Bitmap> DrawingSurface::composed() const {
-  const auto& stored = Picture->bitmap();
+  const auto stored = Picture->over(toPixel(BackColor));
   if (stored && stored->bounds() == inner_) return stored;
   auto fresh =
       std::make_shared<raster::Bitmap>(inner_.width(), inner_.height(), toPixel(BackColor));

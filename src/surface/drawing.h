@@ -2,6 +2,7 @@
 // the operations that paint on it.
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <span>
@@ -18,6 +19,10 @@
 #include "surface/raster/draw.h"
 
 namespace surface {
+
+/// The largest bitmap that a surface takes: pixels a side, and in all.
+inline constexpr int LargestSide = 32767;
+inline constexpr std::int64_t MostPixels = 64'000'000;
 
 /// `B` a box in outline with the brush inside, `BF` a box filled with the line's colour.
 enum class BoxFlag { None, B, BF };
@@ -95,6 +100,8 @@ class DrawingSurface : public Container {
 
   // For gdi.h and the toolkit layer: pixels.
   std::shared_ptr<const raster::Bitmap> bitmap() const;
+  /// Whether any pixel differs from the BackColor.
+  bool holdsDrawing() const;
   /// Whether the surface shows anything but its BackColor; until then it holds no bitmap.
   bool blank() const { return !bitmap_ && Picture->empty(); }
   raster::Bitmap& writableBitmap();

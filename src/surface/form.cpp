@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "surface/controls.h"
 #include "surface/host.h"
 #include "surface/numbers.h"
 
@@ -155,6 +156,18 @@ void FormRegistry::clear() {
 
 bool FormRegistry::anyVisible() const {
   return std::any_of(forms_.begin(), forms_.end(), [](const auto& form) { return form->shown(); });
+}
+
+bool FormRegistry::anyTopMost() const {
+  return std::any_of(forms_.begin(), forms_.end(),
+                     [](const auto& form) { return form->shown() && form->topMost(); });
+}
+
+std::vector<Form*> formsWithDrawing() {
+  std::vector<Form*> found;
+  for (const auto& form : FormRegistry::instance().forms())
+    if (form->Sheet && form->Sheet->holdsDrawing()) found.push_back(form.get());
+  return found;
 }
 
 }  // namespace surface

@@ -118,6 +118,14 @@ class Form : public DrawingSurface {
   Event<Mouse> MouseUp;
   /// The window's close box; without a handler it unloads the form.
   Event<> CloseBox;
+  /// The desktop logs out while the Sheet holds a drawing: the form asks whether to save it.
+  Event<> LogOut;
+
+  /// The first stop of the Tab key, which has the focus when the window opens; without one it is
+  /// the first control. The others follow as they are declared.
+  Control* FirstStop = nullptr;
+  /// What a child draws on here, if anything: it is not to be lost when the machine is shut down.
+  PictureBox* Sheet = nullptr;
 
   void Show();
   void Hide();
@@ -171,6 +179,8 @@ class FormRegistry {
 
   const std::vector<std::unique_ptr<Form>>& forms() const { return forms_; }
   bool anyVisible() const;
+  /// Whether a window that stays above all others can be seen.
+  bool anyTopMost() const;
   /// Runs when a close box has taken the last visible window away.
   std::function<void()> noWindowLeft;
 
@@ -210,6 +220,9 @@ F& showNew() {
   form.Show();
   return form;
 }
+
+/// The forms whose Sheet holds more than its background, in the order in which they were loaded.
+std::vector<Form*> formsWithDrawing();
 
 inline void Unload(Form& form) { FormRegistry::instance().unload(form); }
 

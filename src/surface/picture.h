@@ -2,8 +2,10 @@
 // share, and its way from and to files.
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "surface/raster/bitmap.h"
 
@@ -14,17 +16,24 @@ class Picture {
  public:
   Picture() = default;
   explicit Picture(std::shared_ptr<const raster::Bitmap> bitmap) : bitmap_(std::move(bitmap)) {}
+  /// A picture with transparent parts: `bitmap` as it looks before white, `coverage` one byte a
+  /// pixel, row after row, from 0 (nothing there) to 255.
+  Picture(std::shared_ptr<const raster::Bitmap> bitmap, std::vector<std::uint8_t> coverage);
 
   bool empty() const { return bitmap_ == nullptr; }
   /// Pixels; 0 for an empty picture.
   int width() const { return bitmap_ ? bitmap_->width() : 0; }
   int height() const { return bitmap_ ? bitmap_->height() : 0; }
+  /// As it looks before white; null for an empty picture.
   const std::shared_ptr<const raster::Bitmap>& bitmap() const { return bitmap_; }
+  /// As it looks before a colour.
+  std::shared_ptr<const raster::Bitmap> over(raster::Pixel background) const;
 
   friend bool operator==(const Picture&, const Picture&) = default;
 
  private:
   std::shared_ptr<const raster::Bitmap> bitmap_;
+  std::shared_ptr<const std::vector<std::uint8_t>> coverage_;  ///< null: opaque
 };
 
 /// The empty picture.

@@ -140,6 +140,21 @@ TEST_F(Loading, WhatIsTransparentInAGifIsWhite) {
   expectPixels(load(gif(40, 30, Palette, colorful, 1)), 40, 30, whiteForGreen);
 }
 
+TEST_F(Loading, WhatIsTransparentInAGifIsTheColourBehindItOnASurface) {
+  const Picture picture = load(gif(40, 30, Palette, colorful, 1));
+  constexpr Rgb Behind = 0x204060;
+  const auto pixels = picture.over(0xFF000000 | Behind);
+  ASSERT_EQ(pixels->width(), 40);
+  int seen = 0;
+  for (int y = 0; y < 30; ++y)
+    for (int x = 0; x < 40; ++x) {
+      const Rgb c = colorful(x, y);
+      ASSERT_EQ(pixels->at(x, y), 0xFF000000 | (c == Green ? Behind : c)) << x << ',' << y;
+      seen += c == Green ? 1 : 0;
+    }
+  EXPECT_GT(seen, 0);
+}
+
 TEST_F(Loading, AJpegAsNearAsItsCompressionAllows) {
   const auto soft = [](int x, int y) {
     return static_cast<Rgb>(x * 4) << 16 | static_cast<Rgb>(y * 4) << 8 | 0x80;

@@ -1,14 +1,21 @@
 // Buttons paint themselves: the toolkit's own ones turn a given colour into a tinted gradient.
 #include "surface/qt/button.h"
 
+#include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QShortcut>
 
 #include "surface/qt/art.h"
 #include "surface/qt/pointer.h"
 #include "surface/qt/text_layout.h"
 
 namespace surface::qt {
+namespace {
+
+constexpr int Lit = 125;  // per cent of the face's brightness, while a button is the chosen one
+
+}  // namespace
 
 void drawClassicEdge(QPainter& painter, const QRect& area, bool sunken) {
   const QColor light(0xFF, 0xFF, 0xFF), shadow(0x80, 0x80, 0x80), dark(0x40, 0x40, 0x40);
@@ -33,6 +40,15 @@ ButtonWidget::ButtonWidget(CommandButton& owner, QWidget& parent)
   QObject::connect(this, &QPushButton::clicked, this, [this] {
     if (control) dispatch([this] { control->Click(); });
   });
+  if (owner.Shortcut.empty()) return;
+  auto* key = new QShortcut(QKeySequence(QString::fromStdString(owner.Shortcut)), this);
+  // Also while a ruler or another tool window is the active one.
+  key->setContext(Qt::ApplicationShortcut);
+  key->setAutoRepeat(false);
+  QObject::connect(key, &QShortcut::activated, this, [this] {
+    // While the pointer draws, no button can be pressed.
+    if (QGuiApplication::mouseButtons() == Qt::NoButton) click();
+  });
 }
 
 void ButtonWidget::sync(Aspect aspect) {
@@ -48,10 +64,12 @@ void ButtonWidget::sync(Aspect aspect) {
 void ButtonWidget::paintEvent(QPaintEvent*) {
   if (!control) return;
   QPainter painter(this);
-  painter.fillRect(rect(), toQColor(control->BackColor));
-  drawClassicEdge(painter, rect(), isDown());
+  const bool sunken = isDown() || control->Pressed;
+  const QColor face = toQColor(control->BackColor);
+  painter.fillRect(rect(), control->Pressed ? face.lighter(Lit) : face);
+  drawClassicEdge(painter, rect(), sunken);
   QRect inner = rect().adjusted(3, 3, -3, -3);
-  if (isDown()) inner.translate(1, 1);
+  if (sunken) inner.translate(1, 1);
   if (!picture_.isNull()) {
     painter.setOpacity(isEnabled() ? 1 : 0.3);
     painter.drawPixmap(inner.left() + (inner.width() - picture_.width()) / 2,

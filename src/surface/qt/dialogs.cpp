@@ -17,6 +17,7 @@
 
 #include "surface/dialogs.h"
 #include "surface/dispatch.h"
+#include "surface/form.h"
 #include "surface/qt/images.h"
 #include "surface/qt/peers.h"
 
@@ -69,11 +70,17 @@ void widenColumns(QFileDialog& dialog) {
 
 QWidget* owner() { return QApplication::activeWindow(); }
 
+// A window that stays above all others would hide a dialog that opens in its place.
+void keepAbove(QDialog& dialog) {
+  if (FormRegistry::instance().anyTopMost()) dialog.setWindowFlag(Qt::WindowStaysOnTopHint);
+}
+
 }  // namespace
 
 int msgBox(const std::string& text, int buttons, const std::string& title) {
   showPending();
   QMessageBox box(owner());
+  keepAbove(box);
   box.setWindowTitle(QString::fromStdString(title));
   box.setTextFormat(Qt::PlainText);
   box.setText(QString::fromStdString(text));
@@ -95,6 +102,7 @@ std::optional<std::string> inputBox(const std::string& prompt, const std::string
                                     const std::string& initial) {
   showPending();
   QInputDialog dialog(owner());
+  keepAbove(dialog);
   dialog.setWindowTitle(QString::fromStdString(title));
   dialog.setLabelText(QString::fromStdString(prompt));
   dialog.setTextValue(QString::fromStdString(initial));
@@ -107,6 +115,7 @@ std::optional<std::string> inputBox(const std::string& prompt, const std::string
 std::optional<std::string> fileDialog(const FileRequest& request) {
   showPending();
   QFileDialog dialog(owner(), request.save ? "Opslaan als" : "Openen", folder());
+  keepAbove(dialog);
   dialog.setOption(QFileDialog::DontUseNativeDialog);
   // The program asks about an existing name itself.
   dialog.setOption(QFileDialog::DontConfirmOverwrite);
@@ -130,6 +139,7 @@ std::optional<std::string> fileDialog(const FileRequest& request) {
 std::optional<Color> colorDialog(Color initial, int flags) {
   showPending();
   QColorDialog dialog(toQColor(initial), owner());
+  keepAbove(dialog);
   dialog.setWindowTitle("Kleur");
   dialog.setOption(QColorDialog::DontUseNativeDialog);
   if (flags & ReadyColorsOnly) hideMixing(dialog);
@@ -139,6 +149,7 @@ std::optional<Color> colorDialog(Color initial, int flags) {
 
 void errorReport(const std::string& text) {
   QMessageBox box(owner());
+  keepAbove(box);
   box.setWindowTitle("KRAS PRET");
   box.setIcon(QMessageBox::Critical);
   box.setText("Er is een fout opgetreden, het programma stopt:\n\n" + QString::fromStdString(text));

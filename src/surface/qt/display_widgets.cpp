@@ -46,13 +46,16 @@ void LabelWidget::sync(Aspect aspect) {
     update();
   }
   applyCommon(*this, *control, aspect);
-  if (aspect == Aspect::Look) setAccessibleName(QString::fromStdString(control->AccessibleName));
+  // An empty text would be nothing to a screen reader.
+  const std::string& name = control->AccessibleName;
+  const bool silent = name.empty() && text().isEmpty();
+  setAccessibleName(QString::fromStdString(silent ? control->ToolTipText.get() : name));
 }
 
 void LabelWidget::paintEvent(QPaintEvent*) {
   if (!control) return;
   QPainter painter(this);
-  painter.fillRect(rect(), toQColor(control->BackColor));
+  if (control->BackColor != NoColor) painter.fillRect(rect(), toQColor(control->BackColor));
   painter.setFont(font());
   painter.setPen(toQColor(control->ForeColor));
   drawCaption(painter, rect().adjusted(Inset, 0, -Inset, 0),

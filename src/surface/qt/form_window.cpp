@@ -7,6 +7,7 @@
 #include <QScreen>
 #include <QWindow>
 #include <cstdlib>
+#include <vector>
 
 #include "surface/qt/peers.h"
 #include "surface/qt/pointer.h"
@@ -24,6 +25,18 @@ Qt::WindowFlags flagsOf(const Form& form) {
     flags |= Qt::Tool | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint;
   if (form.topMost()) flags |= Qt::WindowStaysOnTopHint;
   return flags;
+}
+
+void addStop(const Control& control, std::vector<QWidget*>& stops) {
+  QWidget* widget = widgetOf(control);
+  if (widget && widget->focusPolicy() & Qt::TabFocus) stops.push_back(widget);
+}
+
+void addStops(Container& container, const Control* first, std::vector<QWidget*>& stops) {
+  for (Control* control : container.controls()) {
+    if (control != first) addStop(*control, stops);
+    if (Container* inner = control->asContainer()) addStops(*inner, first, stops);
+  }
 }
 
 class FormWindowPeer : public FormPeer {
@@ -45,7 +58,10 @@ class FormWindowPeer : public FormPeer {
     window_->activateWindow();
   }
   void hide() override { window_->hide(); }
-  void addControl(Control& control) override { makePeerLate(control, *window_); }
+  void addControl(Control& control) override {
+    makePeerLate(control, *window_);
+    window_->orderStops();
+  }
   void update() override { window_->sync(); }
   void move() override { window_->place(); }
   void resize() override { window_->fit(); }
@@ -72,6 +88,15 @@ FormWindow::FormWindow(Form& owner) : QWidget(nullptr, flagsOf(owner)), form(&ow
     move(middle());
   sync();
   makePeers(owner, *this);
+  orderStops();
+}
+
+// The toolkit's own order is that in which the widgets were made, and a panel's come late.
+void FormWindow::orderStops() {
+  std::vector<QWidget*> stops;
+  if (form->FirstStop) addStop(*form->FirstStop, stops);
+  addStops(*form, form->FirstStop, stops);
+  for (std::size_t i = 1; i < stops.size(); ++i) setTabOrder(stops[i - 1], stops[i]);
 }
 
 void FormWindow::sync() {

@@ -17,6 +17,8 @@ class FormWindow : public QWidget {
   void place();
   /// Takes the form's size over; a centred window that nobody has moved stays in the middle.
   void fit();
+  /// Puts the stops of the Tab key into the order of the declarations.
+  void orderStops();
 
   Form* form;
 

@@ -86,6 +86,15 @@ Picture toPicture(const QImage& image) {
   if (image.hasAlphaChannel()) {
     QPainter painter(&target);
     painter.drawImage(0, 0, image);
+    painter.end();
+    const QImage alpha = image.convertToFormat(QImage::Format_Alpha8);
+    std::vector<std::uint8_t> coverage;
+    coverage.reserve(static_cast<std::size_t>(image.width()) * image.height());
+    for (int y = 0; y < image.height(); ++y)
+      coverage.insert(coverage.end(), alpha.constScanLine(y),
+                      alpha.constScanLine(y) + image.width());
+    if (std::any_of(coverage.begin(), coverage.end(), [](std::uint8_t part) { return part < 255; }))
+      return Picture(std::move(bitmap), std::move(coverage));
   } else {
     const QImage opaque = image.convertToFormat(QImage::Format_RGB32);
     for (int y = 0; y < image.height(); ++y) {

@@ -10,7 +10,7 @@
 
 namespace surface::qt {
 
-/// A copy as a picture object; what is transparent becomes white.
+/// A copy as a picture object, with what is transparent in it.
 Picture toPicture(const QImage& image);
 /// The bitmap's own memory as an image, without a copy: valid only while the bitmap lives, and
 /// never to be kept.

@@ -46,11 +46,30 @@ TextWidget::TextWidget(TextBox& owner, QWidget& parent) : QLineEdit(&parent), co
   QObject::connect(this, &QLineEdit::textEdited, this, [this](const QString& text) {
     if (control) dispatch([&] { control->typed(text.toStdString()); });
   });
+  if (owner.Shrinks)
+    QObject::connect(this, &QLineEdit::textChanged, this, [this] { fitLetters(); });
+}
+
+void TextWidget::resizeEvent(QResizeEvent* event) {
+  QLineEdit::resizeEvent(event);
+  if (control && control->Shrinks) fitLetters();
+}
+
+// The font's own size, or the largest at which the whole text can be seen.
+void TextWidget::fitLetters() {
+  if (!control) return;
+  constexpr int Margins = 10, Smallest = 6;
+  QFont letters = toQFont(control->Font);
+  while (letters.pixelSize() > Smallest &&
+         QFontMetrics(letters).horizontalAdvance(text()) > width() - Margins)
+    letters.setPixelSize(letters.pixelSize() - 1);
+  setFont(letters);
 }
 
 void TextWidget::sync(Aspect aspect) {
   if (aspect == Aspect::Look) {
     setFont(toQFont(control->Font));
+    if (control->Shrinks) fitLetters();
     applyColors(*this, control->BackColor, control->ForeColor);
     setReadOnly(control->Locked);
   }
@@ -128,11 +147,11 @@ void OptionWidget::paintEvent(QPaintEvent*) {
   if (!control) return;
   constexpr int Circle = 11, TextLeft = 17;
   QPainter painter(this);
-  // Behind the circle and the letters only: the lowest option of a panel reaches over its frame's
-  // line.
-  painter.fillRect(rect().adjusted(0, 2, 0, -2), toQColor(control->BackColor));
+  // All of it stands a little high: the lowest option of a panel reaches over its frame's line.
+  const QRect row = rect().adjusted(0, 0, 0, -3);
+  painter.fillRect(row.adjusted(0, 1, 0, 0), toQColor(control->BackColor));
   // Half a pixel in, so that the line covers whole pixels.
-  const int top = (height() - Circle) / 2;
+  const int top = (row.height() - Circle) / 2;
   const QRectF ring(2.5, top + 0.5, Circle, Circle);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(QColor(0x60, 0x60, 0x60));
@@ -145,7 +164,7 @@ void OptionWidget::paintEvent(QPaintEvent*) {
   }
   painter.setRenderHint(QPainter::Antialiasing, false);
   painter.setPen(isEnabled() ? Qt::black : QColor(0x80, 0x80, 0x80));
-  const QRect place = rect().adjusted(TextLeft, 0, 0, 0);
+  const QRect place = row.adjusted(TextLeft, 0, 0, 0);
   painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextHideMnemonic, text());
   if (hasFocus()) {
     painter.setPen(QPen(QColor(0, 0, 0, 0xA0), 1, Qt::DotLine));

@@ -21,6 +21,12 @@ class TextWidget : public QLineEdit {
   void sync(Aspect aspect);
 
   TextBox* control;
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  void fitLetters();
 };
 
 class LongTextWidget : public QPlainTextEdit {

@@ -28,10 +28,14 @@ bool multiLine(const Control& control) {
   return text && text->MultiLine;
 }
 
+}  // namespace
+
 QWidget* widgetOf(const Control& control) {
   const auto* peer = dynamic_cast<const HasWidget*>(control.peer());
   return peer ? peer->widget() : nullptr;
 }
+
+namespace {
 
 QCursor pointerOf(const Control& control) {
   const int ruling = control.container().form().MousePointer;

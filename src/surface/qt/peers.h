@@ -29,6 +29,9 @@ void makePeers(const Container& container, QWidget& parent);
 /// neighbours; nothing if its container has no widget yet. `window` is the form's.
 void makePeerLate(Control& control, QWidget& window);
 
+/// The widget of a control, null while it has none.
+QWidget* widgetOf(const Control& control);
+
 /// Takes place, visibility, enabled state, pointer, tooltip and spoken name over to a widget.
 void applyCommon(QWidget& widget, const Control& control, Aspect aspect,
                  const QString& spokenText = {});

@@ -6,6 +6,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include "surface/qt/button.h"
 #include "surface/qt/images.h"
 #include "surface/qt/pointer.h"
 
@@ -37,12 +38,16 @@ SurfaceWidget::SurfaceWidget(PictureBox& owner, QWidget& parent)
   makePeers(owner, *this);
 }
 
-void SurfaceWidget::sync(Aspect aspect) { applyCommon(*this, *control, aspect); }
+void SurfaceWidget::sync(Aspect aspect) {
+  if (aspect == Aspect::Look && control->Raised) update();
+  applyCommon(*this, *control, aspect);
+}
 
 void SurfaceWidget::paintEvent(QPaintEvent* event) {
   if (!control) return;
   QPainter painter(this);
   paintSurface(painter, *control, event->rect());
+  if (control->Raised) drawClassicEdge(painter, rect(), control->Pressed);
 }
 
 void SurfaceWidget::mousePressEvent(QMouseEvent* event) {
