@@ -13,8 +13,13 @@ void frmTekenen2::cmdSaveAs_Click() {
 void frmTekenen2::cmdOpenbestand_Click() {
   lblModus.Caption = "een BESTAANDE tekening uit je computer OPENEN";
   cmdUndo.Enabled = true;
-  if (MsgBox("Wil je de huidige tekening opslaan ?", YesNo, "Opslaan") == Yes) cmdSaveAs_Click();
+  askToSave();
   trapAndLeave([&] { picBlad.Picture = LoadPicture(kiesBestand(CommonDialog2)); });
+}
+
+// Before another picture takes the drawing's place, and when the desktop logs out.
+void frmTekenen2::askToSave() {
+  if (MsgBox("Wil je de huidige tekening opslaan ?", YesNo, "Opslaan") == Yes) cmdSaveAs_Click();
 }
 
 void frmTekenen2::LoadCommandLine() { opdrachtregelNaarBlad(picBlad); }

@@ -4,6 +4,7 @@
 using namespace surface;
 
 frmEinde::frmEinde() : Form({.Caption = "KRAS PRET", .BackColor = 0xC0FFC0, .Maximised = true}) {
+  Image9.AccessibleName = "welkomstprent";
   Timer1.Timer = [this] { Timer1_Timer(); };
 }
 

@@ -24,6 +24,7 @@ class frmEinde : public surface::Form {
                     .BackColor = 0xC0FFC0,
                     .ForeColor = 0x800080,
                     .Font = {"Arial", 18, true},
+                    .Shrinks = true,
                     .Locked = true,
                     .Border = false}};
   // Letters of one width: with them the runs of blanks break the lines where a thought ends.

@@ -8,6 +8,7 @@ using namespace surface;
 
 frmStart::frmStart() : Form({.Caption = "KRAS PRET", .BackColor = 0xC0FFC0, .Maximised = true}) {
   txtNaam.AccessibleName = "Vul even je naam in.";
+  Image9.AccessibleName = "welkomstprent";
   cmdTekenen2.Click = [this] { cmdTekenen2_Click(); };
   cmdEinde.Click = [this] { cmdEinde_Click(); };
   CloseBox = [] { End(); };

@@ -17,6 +17,7 @@ class frmStart : public surface::Form {
                    .ForeColor = 0x800080,
                    .Font = {"Arial", 15.75f, true},
                    .MaxLength = 16,
+                   .Shrinks = true,
                    .Centred = true}};
   Label lblReken{*this,
                  {.Left = 240,

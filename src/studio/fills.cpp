@@ -3,7 +3,7 @@
 
 using namespace surface;
 
-void frmTekenen2::Opvullen(const Mouse& at) {
+void frmTekenen2::fill(const Mouse& at) {
   picBlad.FillColor = picBlad.ForeColor;
   picBlad.FillStyle = 0;
   const Color c = picBlad.Point({at.X, at.Y});
@@ -13,7 +13,7 @@ void frmTekenen2::Opvullen(const Mouse& at) {
 }
 
 // In the FillColor that the pointer's way to the sheet has set.
-void frmTekenen2::PatroonVullen(const Mouse& at) {
+void frmTekenen2::fillWithPattern(const Mouse& at) {
   picBlad.FillStyle = Patroon;
   const Color c = picBlad.Point({at.X, at.Y});
   ExtFloodFill(picBlad.hDC(), toInt32(at.X), toInt32(at.Y), c, FloodFillSurface);
@@ -21,7 +21,7 @@ void frmTekenen2::PatroonVullen(const Mouse& at) {
 
 // While one button holds the pointer, a second one can go down beyond the sheet, where there is no
 // colour.
-void frmTekenen2::KleurKiezen(const Mouse& at) {
+void frmTekenen2::pickColor(const Mouse& at) {
   const Color c = picBlad.Point({at.X, at.Y});
   if (c == NoColor) return;
   Shape1.FillColor = c;

@@ -21,7 +21,8 @@ void frmLineaalH::Form_Load() {
   Width = 9285;
   for (int i = 0; i <= 60; ++i) {
     const auto x = static_cast<float>(i);
-    const float d = i < 10 ? 0.13f : 0.2f;
+    // The 0 stands within the window.
+    const float d = i == 0 ? 0 : i < 10 ? 0.13f : 0.2f;
     Line({x, 0.1f}, {x, 0.4f}, Black);
     // A line of no length places the text.
     Line({x - d, 0.5f}, {x - d, 0.5f});

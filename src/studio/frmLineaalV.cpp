@@ -21,8 +21,10 @@ void frmLineaalV::Form_Load() {
   for (int i = 0; i <= 60; ++i) {
     const auto y = static_cast<float>(i);
     Line({0.1f, y}, {0.4f, y}, Black);
+    // The 0 stands within the window.
+    const float d = i == 0 ? 0 : 0.15f;
     // A line of no length places the text.
-    Line({0.5f, y - 0.15f}, {0.5f, y - 0.15f});
+    Line({0.5f, y - d}, {0.5f, y - d});
     Print(toText(i));
   }
   for (int tenth = 0; tenth <= 600; ++tenth) {

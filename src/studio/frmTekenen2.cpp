@@ -15,6 +15,7 @@ namespace {
 // What choosing a tool sets.
 struct ToolRow {
   std::int16_t number;
+  CommandButton frmTekenen2::*button;  // null: chosen in a panel
   int pointer;
   ImageControl frmTekenen2::*icon;
   bool undo;
@@ -24,23 +25,32 @@ struct ToolRow {
 constexpr int Own = PointerCustom, Cross = PointerCross;
 
 const std::array<ToolRow, 15> ToolTable = {{
-    {1, Own, &frmTekenen2::curPen, true, "VRIJE HAND : willekeurige lijnen tekenen"},
-    {2, Own, &frmTekenen2::curPen, true, "je bent bezig met LIJNEN TREKKEN"},
-    {3, Cross, nullptr, true, "je tekent nu een LEGE RECHTHOEK"},
-    {4, Cross, nullptr, true, "je tekent nu een GEVULDE RECHTHOEK"},
-    {5, Cross, nullptr, true, "LEGE cirkels maken : stel eerst de diameter in"},
-    {6, Own, &frmTekenen2::curVullen, false, "je kunt nu vlakken in je tekening OPVULLEN"},
-    {7, Cross, nullptr, false, "een kleur vanuit de afbeelding zelf kiezen"},
-    {8, PointerText, nullptr, true, "klik op de plaats WAAR je de tekst op het blad wil"},
-    {9, Own, &frmTekenen2::curBrush, true, "figuurtjes tekenen met het SPUITBUSJE"},
-    {10, Own, &frmTekenen2::curBrush, true,
+    {1, &frmTekenen2::cmdTekenen, Own, &frmTekenen2::curPen, true,
+     "VRIJE HAND : willekeurige lijnen tekenen"},
+    {2, &frmTekenen2::cmdLijn, Own, &frmTekenen2::curPen, true, "je bent bezig met LIJNEN TREKKEN"},
+    {3, &frmTekenen2::cmdRechthoek, Cross, nullptr, true, "je tekent nu een LEGE RECHTHOEK"},
+    {4, &frmTekenen2::cmdRechthoekgevuld, Cross, nullptr, true,
+     "je tekent nu een GEVULDE RECHTHOEK"},
+    {5, &frmTekenen2::cmdCirkel, Cross, nullptr, true,
+     "LEGE cirkels maken : stel eerst de diameter in"},
+    {6, &frmTekenen2::cmdOpvullen, Own, &frmTekenen2::curVullen, false,
+     "je kunt nu vlakken in je tekening OPVULLEN"},
+    {7, &frmTekenen2::cmdDrop, Cross, nullptr, false, "een kleur vanuit de afbeelding zelf kiezen"},
+    {8, &frmTekenen2::cmdTekst, PointerText, nullptr, true,
+     "klik op de plaats WAAR je de tekst op het blad wil"},
+    {9, &frmTekenen2::cmdSpuitbus, Own, &frmTekenen2::curBrush, true,
+     "figuurtjes tekenen met het SPUITBUSJE"},
+    {10, &frmTekenen2::cmdArt, Own, &frmTekenen2::curBrush, true,
      "KUNSTLIJNEN maken - willekeurige kleuren - lijndikte kan aangepast"},
-    {11, Cross, nullptr, true, "GEVULDE cirkels maken : stel eerst de diameter in"},
-    {12, Cross, nullptr, true, "je tekent nu een     LEGE ELLIPS     (=ovaal, eivorm)"},
-    {13, Cross, nullptr, true, "je tekent nu een GEVULDE ELLIPS (=ovaal, eivorm)"},
-    {19, Own, &frmTekenen2::curDrop, false,
+    {11, &frmTekenen2::cmdCirkelGevuld, Cross, nullptr, true,
+     "GEVULDE cirkels maken : stel eerst de diameter in"},
+    {12, &frmTekenen2::cmdEllips, Cross, nullptr, true,
+     "je tekent nu een     LEGE ELLIPS     (=ovaal, eivorm)"},
+    {13, &frmTekenen2::cmdEllipsGevuld, Cross, nullptr, true,
+     "je tekent nu een GEVULDE ELLIPS (=ovaal, eivorm)"},
+    {19, nullptr, Own, &frmTekenen2::curDrop, false,
      "kies een lijn om vlakken in je tekening mee op te vullen"},
-    {20, Own, &frmTekenen2::curPen, true, "een punt of lijn tekenen met figuurtjes"},
+    {20, nullptr, Own, &frmTekenen2::curPen, true, "een punt of lijn tekenen met figuurtjes"},
 }};
 
 }  // namespace
@@ -50,35 +60,32 @@ frmTekenen2::frmTekenen2() {
   MouseUp = [this](const Mouse& at) { Form_MouseUp(at); };
   // Leaving by the close box is leaving: the rulers go too, and the menu comes back.
   CloseBox = [this] { cmdEinde_Click(); };
-  WireTools();
-  WireSheet();
-  WireRest();
+  LogOut = [this] { askToSave(); };
+  wireTools();
+  wireSheet();
+  wireRest();
 }
 
-void frmTekenen2::WireTools() {
-  cmdTekenen.Click = [this] { ChooseToolClosingPanels(1); };
-  cmdLijn.Click = [this] { ChooseToolClosingPanels(2); };
-  cmdRechthoek.Click = [this] { ChooseToolClosingPanels(3); };
-  cmdRechthoekgevuld.Click = [this] { ChooseToolClosingPanels(4); };
-  cmdCirkel.Click = [this] { ChooseToolClosingPanels(5); };
-  cmdSpuitbus.Click = [this] { ChooseToolClosingPanels(9); };
-  cmdCirkelGevuld.Click = [this] { ChooseToolClosingPanels(11); };
-  cmdEllips.Click = [this] { ChooseToolClosingPanels(12); };
-  cmdEllipsGevuld.Click = [this] { ChooseToolClosingPanels(13); };
-  cmdOpvullen.Click = [this] { ChooseTool(6); };
-  cmdDrop.Click = [this] { ChooseTool(7); };
-  cmdTekst.Click = [this] { ChooseTool(8); };
-  cmdArt.Click = [this] { ChooseTool(10); };
+void frmTekenen2::wireTools() {
+  cmdTekenen.Click = [this] { chooseToolClosingPanels(1); };
+  cmdLijn.Click = [this] { chooseToolClosingPanels(2); };
+  cmdRechthoek.Click = [this] { chooseToolClosingPanels(3); };
+  cmdRechthoekgevuld.Click = [this] { chooseToolClosingPanels(4); };
+  cmdCirkel.Click = [this] { chooseToolClosingPanels(5); };
+  cmdSpuitbus.Click = [this] { chooseToolClosingPanels(9); };
+  cmdCirkelGevuld.Click = [this] { chooseToolClosingPanels(11); };
+  cmdEllips.Click = [this] { chooseToolClosingPanels(12); };
+  cmdEllipsGevuld.Click = [this] { chooseToolClosingPanels(13); };
+  cmdOpvullen.Click = [this] { chooseTool(6); };
+  cmdDrop.Click = [this] { chooseTool(7); };
+  cmdTekst.Click = [this] { chooseTool(8); };
+  cmdArt.Click = [this] { chooseTool(10); };
   for (int i = 0; i < Option5.count(); ++i) Option5(i).Click = [this, i] { Option5_Click(i); };
-  PictureBox* const stamps[] = {&picBorstel1, &picBorstel2,  &picBorstel3,  &picBorstel4,
-                                &picBorstel5, &picBorstel6,  &picBorstel7,  &picBorstel8,
-                                &picBorstel9, &picBorstel10, &picBorstel11, &picBorstel12,
-                                &picBorstel13};
   int number = 0;
-  for (PictureBox* stamp : stamps) stamp->Click = [this, n = ++number] { picBorstel_Click(n); };
+  for (PictureBox* stamp : stamps()) stamp->Click = [this, n = ++number] { picBorstel_Click(n); };
 }
 
-void frmTekenen2::WireSheet() {
+void frmTekenen2::wireSheet() {
   picBlad.MouseDown = [this](const Mouse& at) { picBlad_MouseDown(at); };
   picBlad.MouseMove = [this](const Mouse& at) { picBlad_MouseMove(at); };
   picBlad.MouseUp = [this](const Mouse& at) { picBlad_MouseUp(at); };
@@ -86,25 +93,25 @@ void frmTekenen2::WireSheet() {
   picPalet.MouseMove = [this](const Mouse& at) { picPalet_MouseMove(at); };
   picPalet.MouseUp = [this](const Mouse& at) { picPalet_MouseUp(at); };
   cmdPalet.Click = [this] { cmdPalet_Click(); };
-  Picture3.Click = [this] { KiesVerloopkleur(Picture3); };
-  Picture4.Click = [this] { KiesVerloopkleur(Picture4); };
+  Picture3.Click = [this] { chooseGradientColor(Picture3); };
+  Picture4.Click = [this] { chooseGradientColor(Picture4); };
 }
 
-void frmTekenen2::WireRest() {
+void frmTekenen2::wireRest() {
   cmdLijnen.Click = [this] { cmdLijnen_Click(); };
   cmdGommen.Click = [this] { cmdGommen_Click(); };
   cmdLineaal.Click = [this] { cmdLineaal_Click(); };
   cmdVulling.Click = [this] {
-    OpenPanel(fraVulling, "hulpkader : kies een soort lijn om een vlak mee op te vullen");
+    openPanel(fraVulling, "hulpkader : kies een soort lijn om een vlak mee op te vullen");
   };
   cmdBorstels.Click = [this] {
-    OpenPanel(fraBorstels, "hulpkader : kies een soort borstel om met figuren te tekenen");
+    openPanel(fraBorstels, "hulpkader : kies een soort borstel om met figuren te tekenen");
   };
   cmdGradient.Click = [this] {
-    OpenPanel(fraGradient, "hulpkader : van kleur 1 naar kleur 2 de achtergrond schakeren");
+    openPanel(fraGradient, "hulpkader : van kleur 1 naar kleur 2 de achtergrond schakeren");
   };
   cmdEffecten.Click = [this] {
-    OpenPanel(fraEffecten, "hulpkader : kies een effect om je tekening te veranderen");
+    openPanel(fraEffecten, "hulpkader : kies een effect om je tekening te veranderen");
   };
   Slider1.Scroll = [this] { Slider1_Scroll(); };
   Slider2.Scroll = [this] { Slider2_Scroll(); };
@@ -129,24 +136,25 @@ void frmTekenen2::WireRest() {
   cmdEinde.Click = [this] { cmdEinde_Click(); };
 }
 
-void frmTekenen2::Form_Load() { StartAnew(Sheet::White); }
+void frmTekenen2::Form_Load() { startAnew(Background::White); }
 
-void frmTekenen2::StartAnew(Sheet sheet) {
+void frmTekenen2::startAnew(Background background) {
   FirstTool();
-  if (sheet == Sheet::White) picBlad.BackColor = White;
+  if (background == Background::White) picBlad.BackColor = White;
   lblModus.Caption = "we wensen je veel succes toe met je tekening";
   ZoomOpen = 0;
   Randomize();
-  const float R = Rnd() * 255;
-  const float G = Rnd() * 255;
-  const float B = Rnd() * 255;
-  BeginBlauw = B;
-  kunst.start(R, G, B, picBlad.Width / 15 / 2, picBlad.Height / 15 / 2);
+  const float red = Rnd() * 255;
+  const float green = Rnd() * 255;
+  const float blue = Rnd() * 255;
+  BeginBlauw = blue;
+  kunst.start(red, green, blue, picBlad.Width / 15 / 2, picBlad.Height / 15 / 2);
   ProgressMax = 50;
   SetProgressMax();
   Timer2.Enabled = false;
   Timer2.Interval = 100;
   picUndo.Picture = picBlad.Image();
+  cmdRedo.Enabled = false;
   LoadCommandLine();
 }
 
@@ -163,6 +171,15 @@ void frmTekenen2::FirstTool() {
   picBlad.DrawStyle = cboStijl.ListIndex;
   Slider2.Value = 3;
   lblStraal.Caption = toText(Slider2.Value.get());
+  cmdUndo.Enabled = true;
+  showInHand(&cmdTekenen);
+}
+
+// Of all tools and stamps the one in hand looks pressed.
+void frmTekenen2::showInHand(Control* chosen) {
+  if (InDeHand) InDeHand->Pressed = false;
+  InDeHand = chosen;
+  if (InDeHand) InDeHand->Pressed = true;
 }
 
 void frmTekenen2::ClosePanels() {
@@ -179,6 +196,7 @@ void frmTekenen2::ApplyTool() {
     if (row.icon) picBlad.MouseIcon = (this->*row.icon).PictureName;
     lblModus.Caption = row.message;
     cmdUndo.Enabled = row.undo;
+    showInHand(row.button ? &(this->*row.button) : nullptr);
   }
   if (Gereedschap == 19) picBlad.ForeColor = Shape1.FillColor;
   if (Gereedschap == 20) picBlad.DrawWidth = 1;
@@ -194,10 +212,9 @@ void frmTekenen2::Slider2_Scroll() {
 // A release on the bare form around the sheet draws on the form itself.
 void frmTekenen2::Form_MouseUp(const Mouse& at) {
   if (Gereedschap != 2 && Gereedschap != 3 && Gereedschap != 4) return;
-  if (Teller != 0 && BeginBlauw != 0) {
-    const BoxFlag flag = Gereedschap == 2 ? BoxFlag::None : Gereedschap == 3 ? B : BF;
-    Line({Teller, BeginBlauw}, {at.X, at.Y}, ForeColor, flag);
-  }
+  if (Teller == 0 || BeginBlauw == 0) return;
+  const BoxFlag flag = Gereedschap == 2 ? BoxFlag::None : Gereedschap == 3 ? B : BF;
+  Line({Teller, BeginBlauw}, {at.X, at.Y}, ForeColor, flag);
   Teller = 0;
   BeginBlauw = 0;
 }

@@ -2,6 +2,7 @@
 // table of contents; every group of handlers stands in the file named above it.
 #pragma once
 
+#include <array>
 #include <cstdint>
 
 #include "studio/frmTekenen2_controls.h"
@@ -22,9 +23,6 @@ class frmTekenen2 : public frmTekenen2_controls {
   void Slider2_Scroll();
 
   // tools.cpp: the tool buttons and the panels
-  void ChooseTool(std::int16_t tool);
-  void ChooseToolClosingPanels(std::int16_t tool);
-  void OpenPanel(Frame& panel, const char* message);
   void cmdLijnen_Click();
   void cmdLineaal_Click();
   void Slider1_Scroll();
@@ -37,16 +35,7 @@ class frmTekenen2 : public frmTekenen2_controls {
   void picBlad_MouseMove(const Mouse& at);
   void picBlad_MouseUp(const Mouse& at);
 
-  // fills.cpp: what acts at the press
-  void Opvullen(const Mouse& at);
-  void PatroonVullen(const Mouse& at);
-  void KleurKiezen(const Mouse& at);
-
-  // strokes.cpp: line styles, spray, art line, stamps
-  void Lijnstijlen(const Mouse& at);
-  void Spuiten(const Mouse& at);
-  void KunstlijnBegin(const Mouse& at);
-  void KunstlijnVolg(const Mouse& at);
+  // strokes.cpp
   void StampAt(float X, float Y);
 
   // colours.cpp: palette, background, gradient swatches
@@ -54,7 +43,6 @@ class frmTekenen2 : public frmTekenen2_controls {
   void picPalet_MouseMove(const Mouse& at);
   void picPalet_MouseUp(const Mouse& at);
   void cmdPalet_Click();
-  void KiesVerloopkleur(PictureBox& swatch);
 
   // eraser.cpp
   void cmdGom_Click();
@@ -91,24 +79,55 @@ class frmTekenen2 : public frmTekenen2_controls {
   void LoadCommandLine();
 
  private:
-  enum class Sheet { White, AsItIs };
-  void StartAnew(Sheet sheet);
-  void WireTools();
-  void WireSheet();
-  void WireRest();
+  // frmTekenen2.cpp
+  enum class Background { White, AsItIs };
+  void startAnew(Background background);
+  void showInHand(surface::Control* chosen);
+  void wireTools();
+  void wireSheet();
+  void wireRest();
+
+  // tools.cpp
+  void chooseTool(std::int16_t tool);
+  void chooseToolClosingPanels(std::int16_t tool);
+  void openPanel(Frame& panel, const char* message);
+  std::array<PictureBox*, 13> stamps();
 
   // pointer.cpp
-  bool BeginGeldig() const { return BeginX != 0 && BeginY != 0; }
-  void WisBegin();
-  void PotloodNeer(const Mouse& at);
-  void PotloodVolg(const Mouse& at);
-  void OvaalBegin(const Mouse& at);
-  void OvaalVolg(const Mouse& at);
-  void OvaalEinde();
-  void GevuldeCirkel(const Mouse& at);
-  void ToonMonster();
+  void setBrush(bool filling);
+  bool hasBegun() const { return BeginX != 0 && BeginY != 0; }
+  void forgetBegin();
+  void penDown(const Mouse& at);
+  void penMove(const Mouse& at);
+  void beginOval(const Mouse& at);
+  void stretchOval(const Mouse& at);
+  void endOval();
+  void drawFilledCircle(const Mouse& at);
+  void showSample();
+
+  // fills.cpp: what acts at the press
+  void fill(const Mouse& at);
+  void fillWithPattern(const Mouse& at);
+  void pickColor(const Mouse& at);
+
+  // strokes.cpp: what a moving pointer leaves besides plain lines
+  void followLineStyle(const Mouse& at);
+  void spray(const Mouse& at);
+  void beginArtLine(const Mouse& at);
+  void chaseArtLine(const Mouse& at);
+
+  // colours.cpp
+  Color paletteColor(const Mouse& at) const;
+  void chooseGradientColor(PictureBox& swatch);
+
+  // eraser.cpp
+  void takeEraser();
+
+  // files/large_studio.cpp
+  void askToSave();
 
   std::int16_t Gereedschap = 1;
+  surface::Control* InDeHand = nullptr;  // the tool or stamp that looks pressed
 
   // The shape that is being dragged; 0 in either value means that none has begun.
   float BeginX = 0;
@@ -125,6 +144,7 @@ class frmTekenen2 : public frmTekenen2_controls {
   int Borstel = 0;
   int Patroon = 0;
   std::int16_t PaletBezig = 0;
+  bool VerloopGekozen = false;  // whether a gradient's colour was ever chosen
 
   // Art line and line styles
   std::int16_t KunstActief = 0;

@@ -7,17 +7,28 @@ frmTekenen2_controls::frmTekenen2_controls()
     : Form({.Caption = "KRAS PRET - TEKENEN GROOT", .BackColor = Sand, .Maximised = true}) {
   ForeColor = 0x404040;
   picBlad.AccessibleName = "tekenblad";
+  cboStijl.AccessibleName = "Lijnstijl";
+  Command1.AccessibleName = "Help";
+  // The captions draw the hatches; these say them.
+  static constexpr const char* hatches[] = {
+      "liggende lijnen",       "staande lijnen", "schuine lijnen omlaag",
+      "schuine lijnen omhoog", "kruisjes",       "schuine kruisjes"};
+  int i = 0;
+  for (const char* name : hatches) Option5(i++).AccessibleName = name;
+  FirstStop = &cmdTekenen;
+  Sheet = &picBlad;
   cmdRedo.Enabled = false;
 }
 
 CommandButton::Design frmTekenen2_controls::tool(float left, float top, const char* picture,
-                                                 const char* tip) {
+                                                 const char* tip, const char* key) {
   return {.Left = left,
           .Top = top,
           .Width = 375,
           .Height = 375,
           .Picture = picture,
-          .ToolTipText = tip};
+          .ToolTipText = tip,
+          .Shortcut = key};
 }
 
 CommandButton::Design frmTekenen2_controls::panelTool(float left, float top, const char* picture,
@@ -44,16 +55,19 @@ PictureBox::Design frmTekenen2_controls::sheetSized(ScaleUnit scale, bool autoRe
           .Height = 8055,
           .ScaleMode = scale,
           .AutoRedraw = autoRedraw,
+          .BackColor = White,
           .Visible = false};
 }
 
-PictureBox::Design frmTekenen2_controls::small(float left, float top, float size, bool autoRedraw) {
+PictureBox::Design frmTekenen2_controls::small(float left, float top, float size, bool autoRedraw,
+                                               Color back) {
   return {.Left = left,
           .Top = top,
           .Width = size,
           .Height = size,
           .ScaleMode = ScalePixels,
           .AutoRedraw = autoRedraw,
+          .BackColor = back,
           .Visible = false};
 }
 
@@ -65,7 +79,8 @@ PictureBox::Design frmTekenen2_controls::stamp(float left, float top, const char
           .Height = 375,
           .Picture = picture,
           .ToolTipText = tip,
-          .BackColor = White};
+          .BackColor = White,
+          .Raised = true};
 }
 
 OptionButton::Design frmTekenen2_controls::hatch(float top, const char* caption) {

@@ -11,12 +11,14 @@ class frmTekenen2_controls : public surface::Form {
 
   frmTekenen2_controls();
 
-  static CommandButton::Design tool(float left, float top, const char* picture, const char* tip);
+  static CommandButton::Design tool(float left, float top, const char* picture, const char* tip,
+                                    const char* key = "");
   static CommandButton::Design panelTool(float left, float top, const char* picture,
                                          const char* tip);
   static Frame::Design panel(float height, const char* caption);
   static PictureBox::Design sheetSized(surface::ScaleUnit scale, bool autoRedraw);
-  static PictureBox::Design small(float left, float top, float size, bool autoRedraw);
+  static PictureBox::Design small(float left, float top, float size, bool autoRedraw,
+                                  Color back = surface::White);
   static PictureBox::Design stamp(float left, float top, const char* picture, const char* tip);
   static OptionButton::Design hatch(float top, const char* caption);
   static OptionButton::Design choice(float top, const char* caption, bool value = false);
@@ -77,9 +79,9 @@ class frmTekenen2_controls : public surface::Form {
                   .BackColor = Sand}};
   Label lblStraal{*this,
                   {.Left = 2160,
-                   .Top = 2820,
+                   .Top = 2760,
                    .Width = 375,
-                   .Height = 255,
+                   .Height = 375,
                    .ToolTipText = "diameter van de cirkel",
                    .BackColor = Sand,
                    .Font = {"Arial", 9.75f, true},
@@ -92,17 +94,19 @@ class frmTekenen2_controls : public surface::Form {
   CommandButton cmdTekst{*this, tool(2160, 3240, "tekst", "TEKST invoeren")};
 
   // Clipboard, undo, files
-  CommandButton cmdKnippen{*this, tool(240, 3720, "knippen", "Knippen")};
-  CommandButton cmdCopy{*this, tool(720, 3720, "copy", "Kopiëren")};
-  CommandButton cmdPlakken{*this, tool(1200, 3720, "plakken", "Plakken")};
-  CommandButton cmdUndo{*this, tool(1680, 3720, "undo", "de LAATSTE lijn of vorm ONGEDAAN maken")};
-  CommandButton cmdRedo{*this, tool(2160, 3720, "redo", "ONGEDAAN maken tenietdoen")};
-  CommandButton cmdNieuw{*this, tool(240, 4200, "nieuw", "een NIEUWE tekening")};
+  CommandButton cmdKnippen{*this, tool(240, 3720, "knippen", "Knippen", "Ctrl+X")};
+  CommandButton cmdCopy{*this, tool(720, 3720, "copy", "Kopiëren", "Ctrl+C")};
+  CommandButton cmdPlakken{*this, tool(1200, 3720, "plakken", "Plakken", "Ctrl+V")};
+  CommandButton cmdUndo{
+      *this, tool(1680, 3720, "undo", "de LAATSTE lijn of vorm ONGEDAAN maken", "Ctrl+Z")};
+  CommandButton cmdRedo{*this, tool(2160, 3720, "redo", "ONGEDAAN maken tenietdoen", "Ctrl+Y")};
+  CommandButton cmdNieuw{*this, tool(240, 4200, "nieuw", "een NIEUWE tekening", "Ctrl+N")};
   CommandButton cmdOpenbestand{
-      *this, tool(720, 4200, "openbestand", "een tekening uit een bestand ophalen")};
-  CommandButton cmdSaveAs{*this, tool(1200, 4200, "saveas", "een tekening OPSLAAN ALS ...")};
-  CommandButton cmdPrint{*this, tool(1680, 4200, "print", "je tekening AFDRUKKEN")};
-  CommandButton Command1{*this, tool(2160, 4200, "help", "ONGEDAAN maken tenietdoen")};
+      *this, tool(720, 4200, "openbestand", "een tekening uit een bestand ophalen", "Ctrl+O")};
+  CommandButton cmdSaveAs{*this,
+                          tool(1200, 4200, "saveas", "een tekening OPSLAAN ALS ...", "Ctrl+S")};
+  CommandButton cmdPrint{*this, tool(1680, 4200, "print", "je tekening AFDRUKKEN", "Ctrl+P")};
+  CommandButton Command1{*this, tool(2160, 4200, "help", "ONGEDAAN maken tenietdoen", "F1")};
 
   // Buttons of the panels
   CommandButton cmdLijnen{*this, panelTool(240, 4680, "lijnen", "het menu LIJNEN")};
@@ -139,7 +143,7 @@ class frmTekenen2_controls : public surface::Form {
                   .ToolTipText = "de dikte van de lijn veranderen",
                   .BackColor = PanelBack}};
   LineControl Line2{fraLijnen, {.X1 = 1320, .Y1 = 960, .X2 = 1560, .Y2 = 960}};
-  Label Label5{fraLijnen, text(240, 1080, 1545, "lijndikte veranderen", PanelBack)};
+  Label Label5{fraLijnen, text(240, 1080, 1545, "lijndikte veranderen", surface::NoColor)};
 
   Frame fraBorstels{*this, panel(1695, "BORSTELS")};
   PictureBox picBorstel1{fraBorstels, stamp(120, 240, "borstel1", "LIJNTJES OMHOOG")};
@@ -154,7 +158,14 @@ class frmTekenen2_controls : public surface::Form {
   PictureBox picBorstel6{fraBorstels, stamp(480, 1200, "borstel6", "VIERKANTJES")};
   PictureBox picBorstel11{fraBorstels, stamp(960, 1200, "borstel11", "STERRETJES")};
   PictureBox picBorstel12{fraBorstels, stamp(1320, 1200, "borstel12", "RUITJES")};
-  PictureBox picBorstel2{*this, small(0, 8280, 375, false)};
+  // No panel offers it.
+  PictureBox picBorstel2{*this,
+                         {.Top = 8280,
+                          .Width = 375,
+                          .Height = 375,
+                          .ToolTipText = "LIJNTJES OMLAAG",
+                          .BackColor = surface::White,
+                          .Visible = false}};
 
   Frame fraVulling{*this, panel(1935, "   VULLINGEN  ")};
   ControlArray<OptionButton, 7> Option5{
@@ -217,7 +228,7 @@ class frmTekenen2_controls : public surface::Form {
                   .BackColor = PanelBack}};
   LineControl Line3{fraGommen,
                     {.X1 = 1320, .Y1 = 960, .X2 = 1560, .Y2 = 960, .BorderColor = surface::White}};
-  Label Label6{fraGommen, text(360, 1080, 1395, "dikte veranderen", PanelBack)};
+  Label Label6{fraGommen, text(360, 1080, 1395, "dikte veranderen", surface::NoColor)};
 
   // Messages
   Label Label8{*this, text(120, 7080, 1155, "coördinaten")};
@@ -266,7 +277,7 @@ class frmTekenen2_controls : public surface::Form {
   ProgressBar ProgressBar1{
       *this, {.Left = 5760, .Top = 3960, .Width = 3495, .Height = 375, .Visible = false}};
 
-  // Hidden surfaces: they hold bitmaps only from the first drawing on
+  // Hidden surfaces: they hold bitmaps only from the first drawing on, and are white like paper
   PictureBox picUndo{*this, sheetSized(surface::ScaleTwips, false)};
   PictureBox picRedo{*this, sheetSized(surface::ScaleTwips, false)};
   PictureBox Tempory{picRedo,
@@ -274,9 +285,10 @@ class frmTekenen2_controls : public surface::Form {
                       .Height = 8055,
                       .ScaleMode = surface::ScalePixels,
                       .AutoRedraw = true,
+                      .BackColor = surface::White,
                       .Visible = false}};
   PictureBox picTemp{*this, sheetSized(surface::ScalePixels, true)};
-  PictureBox TempZoom{*this, small(360, 7440, 615, true)};
+  PictureBox TempZoom{*this, small(360, 7440, 615, true, surface::ButtonFace)};
   PictureBox picNieuw{*this, small(1080, 8280, 255, false)};
   PictureBox picRoteren{*this, small(1440, 8280, 255, false)};
   ControlArray<PictureBox, 5> UndoPic{

@@ -9,17 +9,16 @@
 using namespace surface;
 
 void frmTekenen2::picBlad_MouseDown(const Mouse& at) {
-  if (Gereedschap == 1) PotloodNeer(at);
-  if (Gereedschap == 6) Opvullen(at);
-  if (Gereedschap == 7) KleurKiezen(at);
-  if (Gereedschap == 10) KunstlijnBegin(at);
-  if (Gereedschap == 12 && at.Button == 1) OvaalBegin(at);
+  if (Gereedschap == 1) penDown(at);
+  if (Gereedschap == 6) fill(at);
+  if (Gereedschap == 7) pickColor(at);
+  if (Gereedschap == 10) beginArtLine(at);
+  if (Gereedschap == 12 && at.Button == 1) beginOval(at);
   if (Gereedschap == 13) {
-    if (at.Button == 1) OvaalBegin(at);
-    picBlad.FillStyle = at.Button == 1 ? 0 : 1;
-    picBlad.FillColor = at.Button == 1 ? Shape1.FillColor : picBlad.ForeColor;
+    if (at.Button == 1) beginOval(at);
+    setBrush(at.Button == 1);
   }
-  if (Gereedschap == 19) PatroonVullen(at);
+  if (Gereedschap == 19) fillWithPattern(at);
   if (Gereedschap == 20) StampAt(at.X, at.Y);
   switch (Gereedschap) {
     case 2:
@@ -46,71 +45,64 @@ void frmTekenen2::picBlad_MouseMove(const Mouse& at) {
   MuisX = toInt16(at.X);
   MuisY = toInt16(at.Y);
   lblCoordinaten.Caption = "X=" + toText(at.X) + "  Y=" + toText(at.Y);
-  if (at.Button == 1 && Gereedschap == 9) Spuiten(at);
-  if (Gereedschap == 10 && KunstActief) KunstlijnVolg(at);
-  if (at.Button == 1 && Gereedschap == 1) PotloodVolg(at);
-  ToonMonster();
-  if (Gereedschap == 12) OvaalVolg(at);
-  if (Gereedschap == 13) {
-    OvaalVolg(at);
-    picBlad.FillStyle = 0;
-    picBlad.FillColor = Shape1.FillColor;
-  } else {
-    picBlad.FillStyle = 1;
-    picBlad.FillColor = picBlad.ForeColor;
-  }
+  if (at.Button == 1 && Gereedschap == 9) spray(at);
+  if (Gereedschap == 10 && KunstActief) chaseArtLine(at);
+  if (at.Button == 1 && Gereedschap == 1) penMove(at);
+  showSample();
+  if (Gereedschap == 12 || Gereedschap == 13) stretchOval(at);
+  setBrush(Gereedschap == 13);
   if (at.Button == 1 && Gereedschap == 20) StampAt(at.X, at.Y);
-  Lijnstijlen(at);
+  followLineStyle(at);
 }
 
 void frmTekenen2::picBlad_MouseUp(const Mouse& at) {
   if (Gereedschap == 2) {
     LijnBezig = 0;
-    if (BeginGeldig())
+    if (hasBegun())
       picBlad.Line({BeginX, static_cast<float>(BeginY)}, {at.X, at.Y}, picBlad.ForeColor);
-    WisBegin();
+    forgetBegin();
   }
   if (Gereedschap == 3 || Gereedschap == 4) {
     RechthoekBezig = 0;
-    if (BeginGeldig())
+    if (hasBegun())
       picBlad.Line({BeginX, static_cast<float>(BeginY)}, {at.X, at.Y}, picBlad.ForeColor,
                    Gereedschap == 3 ? B : BF);
-    WisBegin();
+    forgetBegin();
   }
   if (Gereedschap == 5) {
-    if (BeginGeldig())
+    if (hasBegun())
       picBlad.Circle({BeginX, static_cast<float>(BeginY)}, static_cast<float>(Slider2.Value),
                      picBlad.ForeColor);
-    WisBegin();
+    forgetBegin();
   }
   if (Gereedschap == 10) KunstActief = 0;
   if (Gereedschap == 11) {
-    if (BeginGeldig()) GevuldeCirkel(at);
-    WisBegin();
+    if (hasBegun()) drawFilledCircle(at);
+    forgetBegin();
   }
-  if (Gereedschap == 12) OvaalEinde();
-  if (Gereedschap == 13) {
-    OvaalEinde();
-    picBlad.FillStyle = 0;
-    picBlad.FillColor = Shape1.FillColor;
-  } else {
-    picBlad.FillStyle = 1;
-    picBlad.FillColor = picBlad.ForeColor;
-  }
+  if (Gereedschap == 12 || Gereedschap == 13) endOval();
+  setBrush(Gereedschap == 13);
 }
 
-void frmTekenen2::WisBegin() {
+// The inside of a filled ellipse takes the chosen colour. At any other time the brush is without
+// effect but holds the pen's colour, and that is what a pattern is filled in.
+void frmTekenen2::setBrush(bool filling) {
+  picBlad.FillStyle = filling ? 0 : 1;
+  picBlad.FillColor = filling ? Shape1.FillColor : picBlad.ForeColor;
+}
+
+void frmTekenen2::forgetBegin() {
   BeginX = 0;
   BeginY = 0;
 }
 
-void frmTekenen2::PotloodNeer(const Mouse& at) {
+void frmTekenen2::penDown(const Mouse& at) {
   PenX = at.X;
   PenY = at.Y;
   picBlad.Line({at.X, at.Y}, {at.X, at.Y}, picBlad.ForeColor);
 }
 
-void frmTekenen2::PotloodVolg(const Mouse& at) {
+void frmTekenen2::penMove(const Mouse& at) {
   VorigePenX = PenX;
   VorigePenY = PenY;
   PenX = at.X;
@@ -120,7 +112,7 @@ void frmTekenen2::PotloodVolg(const Mouse& at) {
 }
 
 // The first line or rectangle drag leaves its sample standing above the sheet; it follows nothing.
-void frmTekenen2::ToonMonster() {
+void frmTekenen2::showSample() {
   if (LijnBezig == 1) {
     Line1.Visible = true;
     Line1.BorderWidth = Slider1.Value;
@@ -133,7 +125,7 @@ void frmTekenen2::ToonMonster() {
   }
 }
 
-void frmTekenen2::OvaalBegin(const Mouse& at) {
+void frmTekenen2::beginOval(const Mouse& at) {
   OvaalX = at.X;
   OvaalY = at.Y;
   ShpOval.Width = 15;
@@ -144,7 +136,7 @@ void frmTekenen2::OvaalBegin(const Mouse& at) {
 }
 
 // The rubber band grows round the point of the press, also without a button held.
-void frmTekenen2::OvaalVolg(const Mouse& at) {
+void frmTekenen2::stretchOval(const Mouse& at) {
   OvaalDX = std::abs(at.X - OvaalX);
   OvaalDY = std::abs(at.Y - OvaalY);
   ShpOval.Left = OvaalX - OvaalDX;
@@ -153,7 +145,7 @@ void frmTekenen2::OvaalVolg(const Mouse& at) {
   ShpOval.Height = 2 * OvaalDY + 15;
 }
 
-void frmTekenen2::OvaalEinde() {
+void frmTekenen2::endOval() {
   const float w = ShpOval.Width, h = ShpOval.Height;
   resumeNext([&] { OvaalStraal = toInt16(std::max(w, h) / 2 - 0.5); },
              [&] {
@@ -165,7 +157,7 @@ void frmTekenen2::OvaalEinde() {
 }
 
 // The flood starts where the button is released: outside the circle it fills the surroundings.
-void frmTekenen2::GevuldeCirkel(const Mouse& at) {
+void frmTekenen2::drawFilledCircle(const Mouse& at) {
   picBlad.Circle({BeginX, static_cast<float>(BeginY)}, static_cast<float>(Slider2.Value),
                  picBlad.ForeColor);
   picBlad.FillColor = picBlad.ForeColor;

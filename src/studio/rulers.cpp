@@ -7,14 +7,14 @@ using namespace surface;
 
 namespace {
 
-void toonVerticaal(float left) {
+void showVertical(float left) {
   auto& ruler = the<frmLineaalV>();
   ruler.Show();
   ruler.Left = left;
   ruler.Top = 120;
 }
 
-void toonHorizontaal(float left) {
+void showHorizontal(float left) {
   auto& ruler = the<frmLineaalH>();
   ruler.Show();
   ruler.Left = left;
@@ -25,20 +25,20 @@ void toonHorizontaal(float left) {
 
 void frmTekenen2::Option1_Click() {
   Option1.Value = true;
-  toonVerticaal(picBlad.Left);
+  showVertical(picBlad.Left);
   fraLineaal.Visible = false;
 }
 
 void frmTekenen2::Option2_Click() {
   Option2.Value = true;
-  toonHorizontaal(picBlad.Left);
+  showHorizontal(picBlad.Left);
   fraLineaal.Visible = false;
 }
 
 void frmTekenen2::Option4_Click() {
   Option4.Value = true;
-  toonVerticaal(picBlad.Left);
-  toonHorizontaal(picBlad.Left);
+  showVertical(picBlad.Left);
+  showHorizontal(picBlad.Left);
   fraLineaal.Visible = false;
 }
 

@@ -7,13 +7,22 @@ namespace {
 
 constexpr float StandardWidth = 9255, StandardHeight = 8055;  // twips
 
+// A sheet without a pixel would vanish, and one beyond what a surface takes would stop halfway. A
+// negative side is left to the control, which refuses it.
+bool canBeSheet(float width, float height) {
+  const double columns = roundEven(width / TwipsPerPixel);
+  const double rows = roundEven(height / TwipsPerPixel);
+  return columns != 0 && rows != 0 && columns <= LargestSide && rows <= LargestSide &&
+         columns * rows <= static_cast<double>(MostPixels);
+}
+
 }  // namespace
 
 void frmTekenen2::cmdClear_Click() {
   picBlad.Cls();
   picBlad.Picture = LoadPicture();
   // A coloured sheet stays coloured.
-  StartAnew(Sheet::AsItIs);
+  startAnew(Background::AsItIs);
   lblModus.Caption = "hiermee zul je ALLES op je tekening WISSEN";
 }
 
@@ -44,7 +53,12 @@ void frmTekenen2::cmdFormaat_Click() {
         toNumber(InputBox("De gewenste hoogte ( maximaal = 14,20.. centimeter ) opgeven a.u.b.",
                           "Afmetingen van de tekening : hoogte wijzigen",
                           toText(ScaleY(picBlad.Height, ScaleTwips, ScaleCentimetres)))));
-    picBlad.Width = ScaleX(static_cast<float>(toNumber(breedte)), ScaleCentimetres, ScaleTwips);
-    picBlad.Height = ScaleY(static_cast<float>(hoogte), ScaleCentimetres, ScaleTwips);
+    const float width = ScaleX(static_cast<float>(toNumber(breedte)), ScaleCentimetres, ScaleTwips);
+    const float height = ScaleY(static_cast<float>(hoogte), ScaleCentimetres, ScaleTwips);
+    if (!canBeSheet(width, height)) return;
+    // The sheet in between is never the larger one.
+    if (height >= 0 && height < picBlad.Height) picBlad.Height = height;
+    picBlad.Width = width;
+    picBlad.Height = height;
   });
 }

@@ -3,17 +3,17 @@
 
 using namespace surface;
 
-void frmTekenen2::ChooseTool(std::int16_t tool) {
+void frmTekenen2::chooseTool(std::int16_t tool) {
   Gereedschap = tool;
   ApplyTool();
 }
 
-void frmTekenen2::ChooseToolClosingPanels(std::int16_t tool) {
+void frmTekenen2::chooseToolClosingPanels(std::int16_t tool) {
   ClosePanels();
-  ChooseTool(tool);
+  chooseTool(tool);
 }
 
-void frmTekenen2::OpenPanel(Frame& panel, const char* message) {
+void frmTekenen2::openPanel(Frame& panel, const char* message) {
   ClosePanels();
   lblModus.Caption = message;
   panel.Visible = true;
@@ -32,7 +32,7 @@ void frmTekenen2::cmdLijnen_Click() {
 }
 
 void frmTekenen2::cmdLineaal_Click() {
-  OpenPanel(fraLineaal, "hulpkader : de beide linealen kan je over het blad slepen");
+  openPanel(fraLineaal, "hulpkader : de beide linealen kan je over het blad slepen");
 }
 
 void frmTekenen2::Slider1_Scroll() {
@@ -50,11 +50,18 @@ void frmTekenen2::cboStijl_Click() {
 
 void frmTekenen2::Option5_Click(int index) {
   static constexpr int styles[] = {2, 3, 4, 5, 6, 7, 0};
-  ChooseTool(19);
+  chooseTool(19);
   Patroon = styles[index];
 }
 
+std::array<PictureBox*, 13> frmTekenen2::stamps() {
+  return {&picBorstel1,  &picBorstel2,  &picBorstel3, &picBorstel4, &picBorstel5,
+          &picBorstel6,  &picBorstel7,  &picBorstel8, &picBorstel9, &picBorstel10,
+          &picBorstel11, &picBorstel12, &picBorstel13};
+}
+
 void frmTekenen2::picBorstel_Click(int number) {
-  ChooseTool(20);
+  chooseTool(20);
   Borstel = number;
+  showInHand(stamps()[static_cast<std::size_t>(number - 1)]);
 }

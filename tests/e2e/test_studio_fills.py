@@ -6,9 +6,9 @@ from kraspret import BLACK, SHEET, WHITE
 from studio import BLUE, RED, Studio, block, frame, of_colour
 
 WHOLE = block(0, 0, SHEET[0] - 1, SHEET[1] - 1)
-ROWS, COLUMNS = "_________", "|||||||||||||||||||||||||||"
-FALLING, RISING = "\\\\\\\\\\\\\\\\\\\\\\", "///////////"
-CROSS, DIAGONAL_CROSS, SOLID = "+++++++++", "xxxxxxxxxxx", "PALETkleur"
+ROWS, COLUMNS = "liggende lijnen", "staande lijnen"
+FALLING, RISING = "schuine lijnen omlaag", "schuine lijnen omhoog"
+CROSS, DIAGONAL_CROSS, SOLID = "kruisjes", "schuine kruisjes", "PALETkleur"
 
 
 class Fills(Studio):

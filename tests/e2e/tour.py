@@ -149,7 +149,7 @@ class Tour:
 
         click("het menu OPVULLEN")
         program.pick(ORANGE)
-        click("+++++++++")
+        click("kruisjes")
         self.desktop.move(*sheet.at(240, 205))  # on its way the pointer takes the colour along
         self.desktop.click(*sheet.at(246, 206))
         click("gommetje om foutjes te verbeteren")

@@ -256,6 +256,23 @@ TEST_F(Menu, ANameOfMoreThanSixteenCharactersCannotBeTyped) {
   EXPECT_EQ(menu.txtNaam.Text, "abcdefghijklmnop");
 }
 
+// Whether all of a field's text can be seen at once.
+bool showsAll(TextBox& box) {
+  const auto* field = qobject_cast<QLineEdit*>(script::widgetOf(box));
+  return field->fontMetrics().horizontalAdvance(field->text()) <= field->width() - 8;
+}
+
+TEST_F(Menu, TheWidestNameCanBeSeenWhole) {
+  menu.txtNaam.SetFocus();
+  type("WWWWWWWWWWWWWWWW");
+  EXPECT_TRUE(showsAll(menu.txtNaam));
+  const QFont wide = script::widgetOf(menu.txtNaam)->font();
+  menu.txtNaam.Text = "Fien";
+  EXPECT_GT(script::widgetOf(menu.txtNaam)->font().pixelSize(), wide.pixelSize())
+      << "a short name stays small";
+  EXPECT_EQ(script::widgetOf(menu.txtNaam)->font().pixelSize(), 21);
+}
+
 TEST_F(Menu, OpeningTheStudioHidesTheMenuAndKeepsTheName) {
   menu.txtNaam.Text = "Fien";
   click(menu.cmdTekenen2);
@@ -308,6 +325,10 @@ TEST_F(Farewell, ThanksTheChildByNameAndTheMenuIsGone) {
   EXPECT_EQ(farewell.txtNaam2.Text, "Fien");
   EXPECT_FALSE(isLoaded<frmStart>());
   EXPECT_FALSE(isLoaded<frmEinde>()) << "a new instance, not the default one";
+}
+
+TEST_F(Farewell, TheWidestNameCanBeSeenWhole) {
+  EXPECT_TRUE(showsAll(leave("WWWWWWWWWWWWWWWW").txtNaam2));
 }
 
 TEST_F(Farewell, AnEmptyNameIsAFriend) { EXPECT_EQ(leave("").txtNaam2.Text, "vriendje"); }

@@ -126,6 +126,8 @@ TEST_F(StudioFrame, EverySurfaceHasItsSizeAndScale) {
     EXPECT_EQ(row.box.ScaleMode(), row.scale);
     EXPECT_EQ(row.box.AutoRedraw, row.autoRedraw);
     EXPECT_EQ(row.box.Visible, row.shown);
+    // Paper; only the magnifier shows its block on a button's grey.
+    EXPECT_EQ(row.box.BackColor, &row.box == &studio.TempZoom ? ButtonFace : White);
   }
 }
 
@@ -163,6 +165,7 @@ TEST_F(StudioFrame, TheStatusLineTheReadOutAndTheRadiusStandAtTheirPlaces) {
   EXPECT_EQ(studio.Slider2.Max, 150);
   EXPECT_EQ(studio.Slider2.ToolTipText, "INSTELLEN van de diameter van de cirkel");
   EXPECT_EQ(studio.lblStraal.Left, 2160);
+  EXPECT_EQ(studio.lblStraal.Top, 2760);
   EXPECT_EQ(studio.lblStraal.ToolTipText, "diameter van de cirkel");
 }
 

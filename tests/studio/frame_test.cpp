@@ -384,6 +384,16 @@ TEST_F(TheBareForm, TakesALineInDarkGreyBehindTheControlsOnce) {
   EXPECT_FALSE(marked());
 }
 
+TEST_F(TheBareForm, AReleaseThatDrawsNothingUsesNothingUp) {
+  click(studio.cmdLijn);
+  letGo();
+  ASSERT_FALSE(marked());
+  stampDiamond();
+  click(studio.cmdLijn);
+  letGo();
+  EXPECT_TRUE(marked());
+}
+
 TEST_F(TheBareForm, TakesABoxAndAFilledBoxToo) {
   for (CommandButton* tool : {&studio.cmdRechthoek, &studio.cmdRechthoekgevuld}) {
     // The load colours give the other corner anew.

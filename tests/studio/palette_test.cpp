@@ -69,6 +69,23 @@ TEST_F(Palette, APressOnTheTopRowsGivesWhiteAndOnTheBottomRowsBlack) {
   }
 }
 
+TEST_F(Palette, EveryPlaceGivesAColourThatThePaletteShows) {
+  const int last = palette.innerPixels().width() - 1;
+  ASSERT_EQ(palette.Picture->width(), last) << "the picture is as wide as its box";
+  for (int y : {20, 37, 60}) {
+    press(palette, last, y);
+    EXPECT_EQ(studio.Shape1.FillColor, pixelAt(last - 1, y));
+    move(palette, 10, y, 1);
+    move(palette, last, y, 1);
+    EXPECT_EQ(studio.Shape1.FillColor, pixelAt(last - 1, y));
+    release(palette, last, y);
+    EXPECT_EQ(sheet.ForeColor, pixelAt(last - 1, y));
+    press(palette, last + 1, y);
+    EXPECT_EQ(studio.Shape1.FillColor, pixelAt(last - 1, y)) << "beyond the box is no colour";
+    release(palette, last + 1, y);
+  }
+}
+
 TEST_F(Palette, TheSwatchFollowsThePointerAndThePenTakesTheColourOfTheRelease) {
   const Color first = pixelAt(10, 37), second = pixelAt(60, 37), third = pixelAt(100, 37);
   press(palette, 10, 37);
@@ -228,6 +245,30 @@ TEST_F(Palette, CancellingAGradientColourAfterASaveStillGivesTheOneChosenLast) {
   click(studio.Picture4);
   EXPECT_EQ(studio.Picture4.BackColor, 0x123456);
   EXPECT_EQ(takeErrorReport(), std::nullopt);
+}
+
+TEST_F(Palette, CancellingTheFirstGradientColourLeavesTheSwatchesAsTheyAre) {
+  click(studio.cmdGradient);
+  for (PictureBox* swatch : {&studio.Picture3, &studio.Picture4}) {
+    const Color own = swatch->BackColor;
+    cancelColor();
+    click(*swatch);
+    EXPECT_EQ(swatch->BackColor, own);
+    EXPECT_EQ(asked().back().initial, std::to_string(own)) << "the dialog opens on another colour";
+  }
+}
+
+TEST_F(Palette, TheGradientsDialogLooksAlikeBeforeAndAfterASave) {
+  click(studio.cmdGradient);
+  cancelColor();
+  click(studio.Picture3);
+  cancelFile();
+  click(studio.cmdSaveAs);
+  cancelColor();
+  click(studio.Picture3);
+  ASSERT_EQ(asked().size(), 3u);
+  EXPECT_EQ(asked()[0].buttons, 0);
+  EXPECT_EQ(asked()[2].buttons, asked()[0].buttons);
 }
 
 TEST_F(Palette, TheGradientsDialogDoesNotTouchTheBackgrounds) {

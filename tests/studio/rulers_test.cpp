@@ -44,7 +44,8 @@ class LiteralRuler {
       oracle::line({paper_}, thinPen(Black), at, begin, at, end);
   }
   void number(int i) {
-    const double back = upright_ ? 0.15 : i < 10 ? 0.13 : 0.2;
+    // The 0 stands within the window, all others in the middle of their tick.
+    const double back = i == 0 ? 0 : upright_ ? 0.15 : i < 10 ? 0.13 : 0.2;
     const int x = upright_ ? pixel(0.5) : pixel(i - back);
     const int y = upright_ ? pixel(i - back) : pixel(0.5);
     oracle::dot({paper_}, thinPen(Black), x, y);

@@ -83,6 +83,24 @@ TEST_F(Sheet, WipingPutsToolColoursAndUndoAtTheirStart) {
   EXPECT_TRUE(shows(sheet, blank()));
 }
 
+TEST_F(Sheet, AWipedDrawingDoesNotComeBackByRedo) {
+  for (CommandButton* startsOver : {&studio.cmdClear, &studio.cmdNieuw}) {
+    draw();
+    click(studio.cmdUndo);
+    ASSERT_TRUE(studio.cmdRedo.Enabled);
+    click(*startsOver);
+    EXPECT_TRUE(studio.cmdUndo.Enabled);
+    EXPECT_FALSE(studio.cmdRedo.Enabled);
+  }
+}
+
+TEST_F(Sheet, WipingTurnsUndoOnAgain) {
+  click(studio.cmdOpvullen);
+  ASSERT_FALSE(studio.cmdUndo.Enabled);
+  click(studio.cmdClear);
+  EXPECT_TRUE(studio.cmdUndo.Enabled);
+}
+
 TEST_F(Sheet, WipingKeepsTheSizeOfTheSheet) {
   ask("10", "8");
   click(studio.cmdClear);
@@ -299,7 +317,13 @@ INSTANTIATE_TEST_SUITE_P(
                     Refused{"5", "4 cm"}, Refused{nullptr, "4"}, Refused{"", "4"},
                     Refused{"breed", "4"}, Refused{"5", "32768"}, Refused{"5", "1e300"},
                     Refused{"5", "-32769"}, Refused{"-5", "4"}, Refused{"1e30", "4"},
-                    Refused{"100000", "4"}, Refused{"nan", "4"}, Refused{"5", "inf"}));
+                    Refused{"100000", "4"}, Refused{"nan", "4"}, Refused{"5", "inf"},
+                    // Without a pixel the sheet would vanish.
+                    Refused{"0", "0"}, Refused{"0", "4"}, Refused{"5", "0"}, Refused{"5", "0.4"},
+                    Refused{"0.001", "4"},
+                    // 32768 pixels, and more than 64 million in all.
+                    Refused{"866.99", "4"}, Refused{"5", "867"}, Refused{"5", "32767"},
+                    Refused{"300", "300"}));
 
 TEST_F(Sheet, ANegativeHeightIsRefusedWhenTheWidthHasChanged) {
   ask("5", "-4");
@@ -307,16 +331,16 @@ TEST_F(Sheet, ANegativeHeightIsRefusedWhenTheWidthHasChanged) {
   EXPECT_EQ(sheet.Height.get(), 8055);
 }
 
-// A height that no memory holds is refused like a negative one, and the control keeps to its
-// bitmap.
-TEST_F(Sheet, AHugeHeightIsRefusedWhenTheWidthHasChanged) {
-  ask("5", "32767");
-  expectSize(189, 537);
-  EXPECT_EQ(sheet.Height.get(), 8055);
+TEST_F(Sheet, FromTallAndNarrowToWideAndLowGoesWithoutASheetThatIsBoth) {
+  ask("1", "860");
+  ASSERT_EQ(sheet.innerPixels().height(), 32504);
+  ask("860", "1");
+  expectSize(32504, 38);
 }
 
 TEST_F(Sheet, OfNoSizeAtAllCanBeDrawnOnAndLeft) {
-  ask("0", "0");
+  sheet.Width = 0;
+  sheet.Height = 0;
   EXPECT_EQ(sheet.bitmap()->width(), 0);
   studio.picBlad_MouseDown({1, 0, 5, 5});
   studio.picBlad_MouseMove({1, 0, 9, 9});

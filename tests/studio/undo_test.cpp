@@ -163,6 +163,29 @@ TEST_F(Undo, OnALargerSheetBringsAnImageOfTheOldSizeIntoTheUpperLeftCorner) {
   EXPECT_EQ(sheet.Width.get(), 10500);
 }
 
+TEST_F(Undo, AfterTheSheetHasGrownIsWhiteWhereTheOldImageEnds) {
+  shrinkSheet(200, 150);
+  drag(sheet, 20, 20, 60, 20);
+  shrinkSheet(400, 300);
+  click(studio.cmdUndo);
+  EXPECT_EQ(sheet.Point({199, 149}), White);
+  EXPECT_EQ(sheet.Point({200, 150}), White);
+  EXPECT_EQ(sheet.Point({399, 299}), White);
+}
+
+TEST_F(Undo, AfterAFillTheEraserCanBeTakenBack) {
+  for (CommandButton* pencilAgain :
+       {&studio.cmdGom, &studio.cmdGommen, &studio.cmdLijnen, &studio.cmdVulling,
+        &studio.cmdBorstels, &studio.cmdGradient, &studio.cmdLineaal, &studio.cmdEffecten}) {
+    click(studio.cmdOpvullen);
+    ASSERT_FALSE(studio.cmdUndo.Enabled);
+    click(*pencilAgain);
+    EXPECT_TRUE(studio.cmdUndo.Enabled) << pencilAgain->ToolTipText.get();
+  }
+  studio.PrepareEffect();
+  EXPECT_FALSE(studio.cmdUndo.Enabled);
+}
+
 TEST_F(Undo, TheStoresKeepTheirSizeAndTheSnapshotsTheirs) {
   sheet.Width = 10500;
   sheet.Height = 9000;
