@@ -3,6 +3,7 @@ import subprocess
 import unittest
 
 import driver
+import kraspret
 import studio
 from kraspret import STUDIO
 from studio import Studio
@@ -53,6 +54,14 @@ class Rulers(Studio):
         for ruler in rulers:
             driver.until(lambda: self.stacking().index(ruler) > self.stacking().index(window), "ruler above the studio")
             driver.until(lambda: self.paleness(ruler) > 0.5, lambda: f"ruler on the screen, {self.paleness(ruler):.0%} is pale")
+
+    def test_a_question_comes_up_above_a_ruler(self):
+        self.choose_ruler("horizontaal")
+        self.click(kraspret.OPEN)
+        question = self.program.wait_window(kraspret.OPEN_QUESTION)
+        driver.until(lambda: self.stacking().index(question) > self.stacking().index(self.ruler(HORIZONTAL)), "question above the ruler")
+        self.program.answer(kraspret.OPEN_QUESTION, "Nee")
+        self.program.answer_file_dialog(None)
 
     def paleness(self, window):
         """How much of a window's place shows the rulers' pale yellow."""

@@ -1,12 +1,16 @@
 // The two rulers: the choice between them, their windows, and the scale that is drawn on them.
 #include <QApplication>
+#include <QMessageBox>
 #include <QRadioButton>
+#include <QTest>
+#include <QTimer>
 #include <cmath>
 
 #include "studio/frmLineaalH.h"
 #include "studio/frmLineaalV.h"
 #include "studio/studio.h"
 #include "surface/host.h"
+#include "surface/qt/dialogs.h"
 
 using namespace surface;
 
@@ -302,4 +306,35 @@ TEST_F(Rulers, TwoDecorativeLinesRunAlongTheEdges) {
   EXPECT_TRUE(inkedRow(37));
   EXPECT_TRUE(inkedColumn(2));
   EXPECT_TRUE(inkedColumn(36));
+}
+
+TEST_F(Rulers, ADialogComesUpAboveThem) {
+  const auto staysOnTop = [] {
+    bool stays = false;
+    QTimer::singleShot(0, [&] {
+      auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      ASSERT_NE(box, nullptr);
+      stays = box->windowFlags().testFlag(Qt::WindowStaysOnTopHint);
+      box->close();
+    });
+    surface::qt::msgBox("Wil je de huidige tekening opslaan ?", YesNo, "Opslaan");
+    return stays;
+  };
+  EXPECT_FALSE(staysOnTop());
+  choose(studio.Option2);
+  EXPECT_TRUE(staysOnTop());
+  choose(studio.Option3);
+  EXPECT_FALSE(staysOnTop());
+}
+
+TEST_F(Rulers, KeysPressTheStudiosButtonsWhileARulerIsTheActiveWindow) {
+  choose(studio.Option2);
+  QWidget* ruler = nullptr;
+  for (QWidget* window : QApplication::topLevelWidgets())
+    if (window->isVisible() && window->windowTitle().contains("LINEAAL")) ruler = window;
+  ASSERT_NE(ruler, nullptr);
+  ruler->activateWindow();
+  advance(0);
+  QTest::keyClick(ruler->windowHandle(), Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_FALSE(studio.cmdUndo.Enabled);
 }
