@@ -57,7 +57,7 @@ void frmTekenen2::cmdFormaat_Click() {
     const float height = ScaleY(static_cast<float>(hoogte), ScaleCentimetres, ScaleTwips);
     if (!canBeSheet(width, height)) return;
     // The sheet in between is never the larger one.
-    if (height >= 0 && height < picBlad.Height) picBlad.Height = height;
+    if (width >= 0 && height >= 0 && height < picBlad.Height) picBlad.Height = height;
     picBlad.Width = width;
     picBlad.Height = height;
   });
