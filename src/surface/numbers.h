@@ -11,6 +11,9 @@ namespace surface {
 /// To the nearest whole number, ties to even. The default rounding mode of the processor is what
 /// makes this one instruction.
 inline double roundEven(double value) { return std::nearbyint(value); }
+/// The same as an int, for the inner loops of pictures: unchecked, within 31 bits. Adding
+/// 1.5 * 2^52 leaves no room for a fraction, and the library's own rounding may be a call.
+inline int nearestInt(double value) { return static_cast<int>((value + 0x1.8p52) - 0x1.8p52); }
 /// The largest whole number that is not above `value`.
 inline double Int(double value) { return std::floor(value); }
 

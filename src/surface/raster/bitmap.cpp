@@ -97,6 +97,14 @@ Bitmap::Bitmap(int width, int height, Pixel fill)
   std::fill_n(pixels_, area(width, height), fill);
 }
 
+Bitmap Bitmap::unfilled(int width, int height) {
+  Bitmap fresh;
+  fresh.pixels_ = pool().take(area(width, height));
+  fresh.width_ = width;
+  fresh.height_ = height;
+  return fresh;
+}
+
 Bitmap::Bitmap(const Bitmap& other)
     : width_(other.width_),
       height_(other.height_),

@@ -35,6 +35,8 @@ class Bitmap {
   Bitmap() = default;
   /// A bitmap of the given size in pixels (each 0 or more), every pixel `fill`.
   Bitmap(int width, int height, Pixel fill);
+  /// One whose pixels are still anything, for a caller that writes them all.
+  static Bitmap unfilled(int width, int height);
   Bitmap(const Bitmap& other);
   Bitmap& operator=(const Bitmap& other);
   Bitmap(Bitmap&& other) noexcept;
