@@ -2,6 +2,7 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QImage>
+#include <QMimeData>
 
 #include "studio/studio.h"
 #include "surface/host.h"
@@ -159,6 +160,16 @@ TEST_F(SystemClipboard, OtherProgramsGetTheSheetWithoutTransparency) {
   // A later stroke does not reach what was copied.
   click(studio.cmdClear);
   EXPECT_EQ(system->image().pixel(100, 100), toPixel(Black));
+}
+
+TEST_F(SystemClipboard, ACopyHoldsTheSheetsOwnMemoryAlsoWhenTheSheetIsGone) {
+  {
+    const Picture big = plain(300, 200, 0x336699);
+    host().setClipboard(big);
+    const QImage copy = qvariant_cast<QImage>(system->mimeData()->imageData());
+    EXPECT_EQ(static_cast<const void*>(copy.constBits()), big.bitmap()->row(0)) << "copied";
+  }
+  EXPECT_EQ(system->image().pixel(299, 199), toPixel(0x336699));
 }
 
 TEST_F(SystemClipboard, CutFollowedByPasteRestoresTheSheet) {

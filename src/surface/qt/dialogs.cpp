@@ -157,11 +157,20 @@ void errorReport(const std::string& text) {
   box.exec();
 }
 
+// An image that keeps the bitmap alive: a copy of a large sheet would be one too many.
+static QImage held(std::shared_ptr<const raster::Bitmap> bitmap) {
+  using Keeper = std::shared_ptr<const raster::Bitmap>;
+  const QImage image = wrapped(*bitmap);
+  return QImage(
+      image.constBits(), image.width(), image.height(), image.bytesPerLine(), image.format(),
+      [](void* kept) { delete static_cast<Keeper*>(kept); }, new Keeper(std::move(bitmap)));
+}
+
 void setClipboard(const Picture& picture) {
   if (picture.empty())
     QGuiApplication::clipboard()->clear();
   else
-    QGuiApplication::clipboard()->setImage(wrapped(*picture.bitmap()).copy());
+    QGuiApplication::clipboard()->setImage(held(picture.bitmap()));
 }
 
 Picture getClipboard() {
