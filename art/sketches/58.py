@@ -1,0 +1,69 @@
+from hand import *
+from people import *
+
+p = Page("58", "Playing with blocks: the girl on tiptoe sets the last one, the boy holds his breath, the dog's tail will do the rest")
+
+p.note("room: floor, carpet, window, picture")
+p.line("-10 372, 640 372", 4)
+p.shape(oval(310, 458, 290, 64))
+p.shape(box(26, 30, 112, 130))
+p.lines("82 30, 82 160", "26 96, 138 96", width=4)
+p.shape("16 160!, 148 160!, 148 176!, 16 176!")
+p.shape("510 40!, 592 34!, 598 112!, 516 118!")
+p.shape(heart(554, 78, 24))
+
+p.shape(box(396, 196, 230, 14))
+p.shape(oval(440, 170, 25))
+p.line("418 160, 440 166, 462 160")
+for x, h in ((506, 60), (528, 70), (552, 54)):
+    p.shape(box(x, 196 - h, 22, h))
+p.note("the dog, tail wagging")
+with p.at(520, 330, .9):
+    p.shape(limb("-40 30, -84 24, -102 -16, -92 -46", 30, 24, 18))
+    p.one(oval(-10, 40, 56, 44), "-20 10, 24 -40, 60 -20, 62 40, 56 96, 0 98, -30 80", limb("40 30, 46 70, 40 100", 40, 32), limb("-20 64, 10 90, 16 102", 50, 34))
+    p.one("20 -96, 52 -92, 66 -60, 60 -30, 30 -22, 0 -30, -34 -36, -42 -54, -20 -66, 0 -84")
+    p.shape("34 -96!, 66 -88, 82 -50, 66 -24, 46 -46, 42 -76!")
+    p.spot(-38, -54, 10, 8)
+    p.eye(4, -64, 5.5)
+    p.line("-32 -36, -14 -32, 4 -40")
+    p.line("-122 -56, -130 -70")
+    p.line("-20 46, 0 40, 20 50")
+
+p.note("the tower, leaning")
+blocks = ((0, 0, 76, 74, 0), (6, -70, 70, 68, -3), (-2, -136, 66, 66, 3), (10, -200, 62, 62, -5), (2, -260, 58, 58, 3))
+with p.at(334, 436):
+    for x, y, w, h, t in blocks:
+        with p.at(x, y - 2, 1, t):
+            p.shape(box(-w / 2, -h / 2, w, h))
+    p.shape(star(0, 2, 24))
+    p.shape(heart(6, -66, 19))
+    p.shape(oval(-2, -138, 20))
+    p.shape("10 -220!, 28 -188!, -8 -188!")
+    p.shape(scallops(oval(2, -262, 17), 6, .45))
+
+p.note("girl on tiptoe, arms up, in profile")
+with p.at(204, 0):
+    p.one(limb("0 372, -8 412, -16 452", 40, 28))
+    shoe(p, -8, 464, 28, 1)
+    p.one(limb("-34 366, -48 410, -64 444", 42, 28))
+    shoe(p, -64, 456, 28, 1)
+    p.shape(limb("4 176, -2 206", 28, 28))
+    p.one("-34 208!, 20 200!, 38 240, 40 300, 60 380!, 0 394, -78 378!, -50 300, -50 250")
+    p.line("-52 294, -4 306, 42 292")
+    with p.at(10, 128, .94, -14):
+        head(p, "side", "braid", mouth="tongue", brows=None)
+    p.shape("90 90!, 152 76!, 160 136!, 100 148!")
+    p.one(limb("-16 226, 20 210, 50 178", 48, 42, 38, flat=True), arm("52 178, 76 150, 88 130", 32, 26, thumb=1), join=(-16, 228, 23))
+
+p.note("boy on his belly, cheeks blown up, hands at his mouth")
+with p.at(520, 484, .94, flip=True):
+    p.one(limb("-60 20, -120 26, -150 -10", 50, 40))
+    p.one("-80 -14, -20 -24, 40 -30, 66 0, 60 34, 0 44, -84 44, -100 14")
+    with p.within("-80 -14, -20 -24, 40 -30, 66 0, 60 34, 0 44, -84 44, -100 14"):
+        p.lines("-30 -50, -36 60", "10 -50, 10 60", width=4)
+    with p.at(90, -50, .94, -8):
+        head(p, "side", "curly", mouth="o", brows=8)
+    p.one(limb("40 10, 84 46, 112 42", 44, 38, flat=True), arm("112 44, 132 30, 138 14", 30, 26, thumb=-1), join=(40, 8, 22))
+p.note("blocks that wait")
+p.shape("60 474!, 112 464!, 122 510!, 68 520!")
+p.save()
