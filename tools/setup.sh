@@ -4,7 +4,7 @@ export LC_ALL=C.UTF-8
 
 # What the program needs to be built and to run: a window, and more than a handful of typefaces.
 packages_run=(
-  cmake ninja-build g++ qt6-base-dev x11-utils
+  cmake ninja-build g++ qt6-base-dev qt6-translations-l10n x11-utils
   fonts-liberation2 fonts-dejavu-core fonts-dejavu-extra fonts-crosextra-carlito
   fonts-crosextra-caladea fonts-comic-neue fonts-sil-andika
 )

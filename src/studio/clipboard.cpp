@@ -18,5 +18,6 @@ void frmTekenen2::cmdCopy_Click() {
 
 void frmTekenen2::cmdPlakken_Click() {
   lblModus.Caption = "de KOPIE of GEKNIPTE tekening in een NIEUW blad plakken";
-  picBlad.Picture = Clipboard::GetData(Clipboard::Bitmap);
+  // A bitmap that cannot be taken leaves the sheet as it is.
+  trapAndLeave([&] { picBlad.Picture = Clipboard::GetData(Clipboard::Bitmap); });
 }

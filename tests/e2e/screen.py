@@ -179,6 +179,11 @@ class Screen:
         place = dict(line.split("=") for line in found.split() if "=" in line)
         return tuple(int(place[name]) for name in ("X", "Y", "WIDTH", "HEIGHT")) if "HEIGHT" in place else None
 
+    def property(self, window, name):
+        """What a window's property says, in the words of xprop."""
+        return subprocess.run(["xprop", "-id", str(window), name], env=self.env, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
+                              timeout=60, check=False).stdout.decode()
+
     def wait_icon(self, window, size):
         """Waits until a window has an icon of that many pixels a side."""
         def has_icon():

@@ -44,6 +44,53 @@ class Dialogs(Studio):
         self.assertEqual(field.text, "")
         self.close()
 
+    def files(self):
+        """Everything in the home folder that the program may have made, with its contents."""
+        home = self.desktop.folder / "home"
+        return {p.relative_to(home): p.read_bytes() for p in home.rglob("*") if p.is_file() and ".cache" not in p.parts}
+
+    def test_no_key_in_a_file_dialog_deletes_a_folder_with_all_it_holds(self):
+        drawings = self.folder / "mijn tekeningen"
+        (drawings / "zomer").mkdir(parents=True)
+        for name in ("oma.bmp", "zomer/zee.bmp"):
+            (drawings / name).write_bytes(b"not to be lost")
+        for button, answer in ((kraspret.SAVE, None), (kraspret.OPEN, "Nee")):
+            with self.subTest(button):
+                self.click(button)
+                if answer:
+                    self.program.answer(kraspret.OPEN_QUESTION, answer)
+                self.program.wait_dialog()
+                self.desktop.type(str(self.folder) + "/")
+                row = self.program.control("mijn tekeningen")
+                row.click()
+                self.desktop.key("Delete", "Return", "F2", "ctrl+a", "x", "Return", "Delete", "Return")
+                for _ in range(4):
+                    self.desktop.key("Escape")
+                self.program.wait_no_dialog()
+                self.assertEqual({p.name: p.read_bytes() for p in drawings.rglob("*") if p.is_file()},
+                                 {"oma.bmp": b"not to be lost", "zee.bmp": b"not to be lost"})
+
+    def test_no_dialog_leaves_anything_behind(self):
+        before = self.files()
+        for button in (kraspret.SAVE, studio.BACKGROUND):
+            self.click(button)
+            self.program.wait_dialog()
+            self.close()
+        self.click(studio.BACKGROUND)
+        self.mix(1, 1)
+        self.assertEqual(self.files(), before)
+
+    def test_a_message_has_no_buttons_to_make_it_small_or_large(self):
+        self.click(kraspret.OPEN)
+        self.program.wait_dialog(kraspret.OPEN_QUESTION)
+        box = self.program.wait_window(kraspret.OPEN_QUESTION)
+        allowed = self.desktop.property(box, "_NET_WM_ALLOWED_ACTIONS")
+        self.assertIn("_NET_WM_ACTION_CLOSE", allowed)
+        self.assertNotIn("_NET_WM_ACTION_MINIMIZE", allowed)
+        self.assertNotIn("_NET_WM_ACTION_MAXIMIZE", allowed)
+        self.program.answer(kraspret.OPEN_QUESTION, "Nee")
+        self.close()
+
 
 if __name__ == "__main__":
     unittest.main()

@@ -1,6 +1,7 @@
-"""A screen smaller than the studio: what fits stays at its place and works, and what does not fit is cut off."""
+"""A screen smaller than the studio: what fits stays at its place and works, and the rest is reached by scrolling."""
 import unittest
 
+import kraspret
 import studio
 from kraspret import BLACK, SHEET
 from studio import Studio, span
@@ -26,6 +27,34 @@ class SmallScreen(Studio):
         self.click(studio.LINES)
         self.stroke((100, 300), (140, 300))
         self.assertEqual(self.painted(), dict.fromkeys(span(100, 140, 300), BLACK))
+
+    def test_what_does_not_fit_is_reached_by_scrolling(self):
+        self.program.choose("line")
+        self.scroll(down=20, right=20)
+        self.stroke((500, 500), (600, 500))
+        self.assertEqual(self.painted(), dict.fromkeys(span(500, 599, 500), BLACK))
+
+    def test_the_tab_key_brings_a_hidden_button_into_sight(self):
+        self.program.leave_studio()
+        stop = self.program.control("Stoppen")
+        for _ in range(12):
+            if stop.has("FOCUSED"):
+                break
+            self.desktop.key("Tab")
+        self.program.wait_focus(stop)
+        left, top, width, height = stop.rectangle
+        self.assertLessEqual(top + height, self.size[1])
+        self.assertLessEqual(left + width, self.size[0])
+        self.desktop.key("space")
+        self.program.answer(kraspret.QUIT_QUESTION, "Nee")
+        self.program.open_studio()
+
+    def scroll(self, down, right):
+        """Turns the wheel above the sheet."""
+        for _ in range(down):
+            self.desktop.click(300, 200, button=5)
+        for _ in range(right):
+            self.desktop.click(300, 200, button=7)
 
 
 if __name__ == "__main__":

@@ -4,8 +4,11 @@
 #include <QBuffer>
 #include <QImage>
 #include <QImageWriter>
+#include <QTransform>
 #include <chrono>
 #include <cmath>
+#include <cstring>
+#include <filesystem>
 
 #include "files/disk.h"
 #include "files/picture_files.h"
@@ -37,6 +40,47 @@ Bytes encoded(const char* format, const QImage& image) {
   EXPECT_TRUE(writer.write(image)) << format;
   return bytes.toStdString();
 }
+
+Bytes progressive(const QImage& image) {
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::WriteOnly);
+  QImageWriter writer(&buffer, "jpg");
+  writer.setQuality(100);
+  writer.setProgressiveScanWrite(true);
+  EXPECT_TRUE(writer.write(image));
+  return bytes.toStdString();
+}
+
+/// A photo of a camera that was held in one of the eight ways.
+Bytes held(int way, const Bytes& photo) {
+  Bytes note(
+      "\xFF\xE1\0\x22"
+      "Exif\0\0II*\0\x08\0\0\0\x01\0\x12\x01\x03\0\x01\0\0\0",
+      28);
+  note += static_cast<char>(way);
+  note += Bytes(7, '\0');
+  return photo.substr(0, 2) + note + photo.substr(2);
+}
+
+/// How long something takes, and how much more memory than ever before.
+class Watch {
+ public:
+  Watch() : start_(std::chrono::steady_clock::now()), former_(most()) {}
+  double seconds() const {
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start_).count();
+  }
+  long megabytesMore() const { return (most() - former_) / 1024; }
+
+ private:
+  static long most() {
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    return usage.ru_maxrss;
+  }
+  std::chrono::steady_clock::time_point start_;
+  long former_;
+};
 
 QImage image(int width, int height, const Pixels& pixels) {
   QImage made(width, height, QImage::Format_RGB32);
@@ -112,6 +156,46 @@ TEST_F(Loading, ABitmapWithTheOldestHeader) {
   const Bytes bytes = oldestBmp(Wide, High, colorful);
   expectPixels(load(bytes), Wide, High, colorful);
   expectRefused(bytes.substr(0, bytes.size() / 2));
+}
+
+// The third version of the header has masks, also where nothing needs them.
+TEST_F(Loading, ABitmapWithAHeaderOfFiftySixBytes) {
+  Bytes bytes = trueColorBmp(Wide, High, 32, colorful);
+  bytes[10] = 70;
+  bytes[14] = 56;
+  bytes[30] = 3;
+  Bytes masks;
+  for (const std::uint32_t mask : {0xFF0000u, 0xFF00u, 0xFFu, 0u}) put32(masks, mask);
+  bytes.insert(54, masks);
+  expectPixels(load(bytes), Wide, High, colorful);
+}
+
+TEST_F(Loading, ABitmapWithMasksOfItsOwnBehindTheHeader) {
+  // Blue and red have changed places.
+  Bytes bytes = trueColorBmp(Wide, High, 32, [](int x, int y) {
+    const Rgb c = colorful(x, y);
+    return (c & 0xFF) << 16 | (c & 0xFF00) | c >> 16;
+  });
+  bytes[10] = 66;
+  bytes[30] = 3;
+  Bytes masks;
+  for (const std::uint32_t mask : {0xFFu, 0xFF00u, 0xFF0000u}) put32(masks, mask);
+  bytes.insert(54, masks);
+  expectPixels(load(bytes), Wide, High, colorful);
+}
+
+TEST_F(Loading, ABitmapOfRunLengthsInFourBits) {
+  // Two colours in turn, a leap, three single ones padded to an even number of bytes.
+  const Bytes runs(
+      "\x04\x12\0\x02\x02\0\0\x03\x34\x10\0\0"
+      "\x09\x33\0\x01",
+      16);
+  Bytes bytes = bmpHeader(9, 2, 4, 5, static_cast<std::uint32_t>(runs.size()));
+  bytes[30] = 2;
+  for (const Rgb color : Palette) put32(bytes, color);
+  const int lower[9] = {1, 2, 1, 2, 0, 0, 3, 4, 1};
+  expectPixels(load(bytes + runs), 9, 2,
+               [&](int x, int y) { return Palette[static_cast<std::size_t>(y ? lower[x] : 3)]; });
 }
 
 TEST_F(Loading, ABitmapWithSixBitsOfGreen) {
@@ -231,15 +315,55 @@ TEST_F(Loading, AFileThatMayNotBeReadIsRefused) {
 
 TEST_F(Loading, AFileCutOffIsRefused) {
   const auto none = [](int, int) { return false; };
-  const Bytes whole[] = {trueColorBmp(40, 30, 24, colorful),
-                         paletteBmp(40, 30, 8, Palette, colorful), gif(40, 30, Palette, colorful),
-                         icon(1, 16, 12, Palette, colorful, none),
-                         encoded("jpg", image(40, 30, colorful))};
-  for (const Bytes& bytes : whole) {
+  const QImage photo = image(40, 30, colorful);
+  const Bytes jpegs[] = {encoded("jpg", photo), progressive(photo)};
+  const Bytes others[] = {trueColorBmp(40, 30, 24, colorful),
+                          paletteBmp(40, 30, 8, Palette, colorful), gif(40, 30, Palette, colorful),
+                          icon(1, 16, 12, Palette, colorful, none)};
+  const auto refuseParts = [&](const Bytes& bytes) {
     EXPECT_NO_THROW(load(bytes));
     for (const std::size_t part : {std::size_t{3}, std::size_t{60}, bytes.size() / 10,
-                                   bytes.size() / 2, bytes.size() * 9 / 10, bytes.size() - 2})
+                                   bytes.size() / 2, bytes.size() * 9 / 10})
       expectRefused(bytes.substr(0, part));
+  };
+  for (const Bytes& bytes : jpegs) {
+    refuseParts(bytes);
+    // The last byte of the last scan is missing, too.
+    expectRefused(bytes.substr(0, bytes.size() - 4));
+  }
+  for (const Bytes& bytes : others) {
+    refuseParts(bytes);
+    expectRefused(bytes.substr(0, bytes.size() - 2));
+  }
+}
+
+TEST_F(Loading, AJpegThatLacksOnlyItsEndMarkIsWhole) {
+  const QImage photo = image(43, 29, colorful);
+  for (const Bytes& bytes : {encoded("jpg", photo), progressive(photo)}) {
+    const Picture whole = load(bytes), cut = load(bytes.substr(0, bytes.size() - 2));
+    expectPixels(cut, 43, 29, [&](int x, int y) { return whole.bitmap()->at(x, y) & 0xFFFFFF; });
+    EXPECT_EQ(load(bytes.substr(0, bytes.size() - 1)).width(), 43) << "half an end mark";
+  }
+}
+
+TEST_F(Loading, APhotoIsTurnedAsTheCameraWasHeld) {
+  // Bright at the left, brighter below.
+  const auto soft = [](int x, int y) { return static_cast<Rgb>(x * 3 + y * 2) * 0x010101; };
+  const QImage upright = image(48, 32, soft);
+  // What each of the eight ways to hold it does to the picture as it is in the file.
+  const std::pair<int, QTransform> ways[] = {{1, {1, 0, 0, 1, 0, 0}},   {2, {-1, 0, 0, 1, 0, 0}},
+                                             {3, {-1, 0, 0, -1, 0, 0}}, {4, {1, 0, 0, -1, 0, 0}},
+                                             {5, {0, 1, 1, 0, 0, 0}},   {6, {0, 1, -1, 0, 0, 0}},
+                                             {7, {0, -1, -1, 0, 0, 0}}, {8, {0, -1, 1, 0, 0, 0}}};
+  for (const auto& [way, turn] : ways) {
+    const QImage expected = upright.transformed(turn);
+    const Picture picture = load(held(way, encoded("jpg", upright)));
+    ASSERT_TRUE(QSize(picture.width(), picture.height()) == expected.size()) << way;
+    for (int y = 0; y < expected.height(); ++y)
+      for (int x = 0; x < expected.width(); ++x)
+        ASSERT_NEAR(static_cast<int>(picture.bitmap()->at(x, y) & 0xFF),
+                    qBlue(expected.pixel(x, y)), 4)
+            << way << ": " << x << ',' << y;
   }
 }
 
@@ -267,15 +391,91 @@ TEST_F(Loading, AHugeSizeInAHeaderIsRefusedAtOnceAndCostsNoMemory) {
   EXPECT_LT(after.ru_maxrss - before.ru_maxrss, 32 * 1024) << "kilobytes";
 }
 
-TEST_F(Loading, TheLargestPicturesAreStillTakenAndNoLargerOnes) {
-  const auto plain = [](int, int) { return Green; };
-  const auto bitmap = [&](int width, int height) {
-    return paletteBmp(width, height, 1, {Green, Red}, plain);
+// A sheet is no larger, and a child sees the upper left part.
+TEST_F(Loading, OfAHugePictureTheUpperLeftPartIsKept) {
+  // Green, with one red row.
+  const auto bitmap = [&](int width, int height, int red) {
+    const auto stride = static_cast<std::size_t>((width + 31) / 32 * 4);
+    const std::size_t all = stride * static_cast<std::size_t>(height);
+    Bytes bytes = bmpHeader(width, height, 1, 2, static_cast<std::uint32_t>(all));
+    put32(bytes, Green);
+    put32(bytes, Red);
+    bytes.resize(bytes.size() + all);
+    const std::size_t row = bytes.size() - stride * static_cast<std::size_t>(red + 1);
+    return bytes.replace(row, stride, stride, '\xFF');
   };
-  // 64 MiB at four bytes a pixel.
-  EXPECT_EQ(load(bitmap(4096, 4096)).width(), 4096);
-  expectRefused(bitmap(4097, 4096));
-  EXPECT_EQ(load(bitmap(32767, 1)).width(), 32767);
-  expectRefused(bitmap(32768, 1));
-  expectRefused(bitmap(1, 32768));
+  const Picture huge = load(bitmap(10'000, 10'000, 6'399));
+  EXPECT_EQ(huge.width(), 10'000);
+  ASSERT_EQ(huge.height(), 6'400);
+  for (const int x : {0, 9'999}) {
+    EXPECT_EQ(huge.bitmap()->at(x, 0), 0xFF000000 | Green);
+    EXPECT_EQ(huge.bitmap()->at(x, 6'398), 0xFF000000 | Green);
+    EXPECT_EQ(huge.bitmap()->at(x, 6'399), 0xFF000000 | Red);
+  }
+  expectRefused(bitmap(10'001, 10'000, 0));
+  const Picture wide = load(bitmap(40'000, 3, 2)), high = load(bitmap(3, 40'000, 1));
+  ASSERT_EQ(wide.width(), 32767);
+  EXPECT_EQ(wide.bitmap()->at(32766, 2), 0xFF000000 | Red);
+  ASSERT_EQ(high.height(), 32767);
+  EXPECT_EQ(high.bitmap()->at(2, 1), 0xFF000000 | Red);
+}
+
+TEST_F(Loading, APhotoOfAHundredMillionPixelsIsTakenWithinItsMemory) {
+  QImage photo(12'500, 8'000, QImage::Format_Grayscale8);
+  for (int y = 0; y < photo.height(); ++y)
+    std::memset(photo.scanLine(y), y < 1000 ? 40 : 200, static_cast<std::size_t>(photo.width()));
+  const Bytes bytes = encoded("jpg", photo);
+  photo = {};
+  const std::string path = folder() + "/groot.jpg";
+  write(path, bytes);
+  const Watch watch;
+  const Picture picture = LoadPicture(path);
+  EXPECT_LT(watch.megabytesMore(), 256);
+  EXPECT_EQ(picture.width(), 12'500);
+  ASSERT_GT(picture.height(), 2'000);
+  EXPECT_NEAR(static_cast<int>(picture.bitmap()->at(0, 0) & 0xFF), 40, 4);
+  EXPECT_NEAR(static_cast<int>(picture.bitmap()->at(12'499, 1'100) & 0xFF), 200, 4);
+}
+
+TEST_F(Loading, AJpegOfEndlessScansOrSegmentsIsRefusedInTime) {
+  Bytes many = progressive(image(40, 30, colorful));
+  const std::size_t frame = many.find("\xFF\xC2"), last = many.rfind("\xFF\xDA");
+  ASSERT_NE(frame, Bytes::npos);
+  // 8,000 by 8,000 pixels, and the last scan again and again.
+  many.replace(frame + 5, 4, "\x1F\x40\x1F\x40", 4);
+  const Bytes scan = many.substr(last, many.size() - 2 - last);
+  many.resize(many.size() - 2);
+  for (int i = 0; i < 5'000; ++i) many += scan;
+  many += "\xFF\xD9";
+  Bytes comments = encoded("jpg", image(40, 30, colorful));
+  Bytes comment("\xFF\xFE\0\x02", 4);
+  for (int i = 0; i < 18; ++i) comment += comment;
+  comments.insert(2, comment);
+  const Watch watch;
+  expectRefused(many);
+  expectRefused(comments);
+  EXPECT_LT(watch.seconds(), 2);
+}
+
+TEST_F(Loading, ALinkIsRefusedOrTakenByWhatItPointsTo) {
+  const std::string link = folder() + "/link.bmp";
+  std::filesystem::create_symlink("/dev/zero", link);
+  EXPECT_ERROR(BadFile, LoadPicture(link));
+  std::filesystem::remove(link);
+  write(folder() + "/echt.bmp", trueColorBmp(3, 2, 24, colorful));
+  std::filesystem::create_symlink("echt.bmp", link);
+  expectPixels(LoadPicture(link), 3, 2, colorful);
+}
+
+// It calls itself an ordinary file of no size, and goes on for terabytes.
+TEST_F(Loading, AFileOfTheSystemWithoutEndIsRefused) {
+  const Watch watch;
+  EXPECT_ERROR(BadFile, LoadPicture("/proc/self/pagemap"));
+  EXPECT_LT(watch.seconds(), 2);
+  EXPECT_LT(watch.megabytesMore(), 256);
+}
+
+TEST_F(Loading, ANameNeedNotBeText) {
+  expectPixels(load(trueColorBmp(3, 2, 24, colorful), "caf\xE9 \xFF.bmp"), 3, 2, colorful);
+  expectPixels(load(gif(40, 30, Palette, colorful), "caf\xE9.gif"), 40, 30, colorful);
 }

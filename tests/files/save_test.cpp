@@ -195,6 +195,44 @@ TEST_F(Saving, AFullDiskBringsTheContentsOfAFileBackThatIsWrittenOver) {
   }
 }
 
+// A folder that many share, as the one for what is temporary: nobody may take the name of another's
+// file, but whoever may write into it may write over it.
+TEST_F(Saving, AnotherUsersFileInASharedFolderIsWrittenOver) {
+  bystander(100);
+  std::filesystem::permissions(path(), std::filesystem::perms{0666});
+  std::filesystem::permissions(folder(), std::filesystem::perms{01777});
+  {
+    const disk::OrdinaryUser user;
+    SavePicture(sheet, path());
+  }
+  expectSaved(path(), 617, 537);
+  EXPECT_EQ(disk::names(folder()), std::vector<std::string>{"tekening.bmp"}) << "debris";
+}
+
+TEST_F(Saving, ANameNeedNotBeText) {
+  for (int times = 0; times < 2; ++times) {
+    SavePicture(sheet, path("caf\xE9.bmp"));
+    expectSaved(path("caf\xE9.bmp"), 617, 537);
+  }
+  EXPECT_EQ(disk::names(folder()), std::vector<std::string>{"caf\xE9.bmp"});
+}
+
+TEST_F(Saving, ALinkToNothingYetMakesTheFileBehindIt) {
+  std::filesystem::create_symlink("nieuw.bmp", path());
+  SavePicture(sheet, path());
+  EXPECT_TRUE(std::filesystem::is_symlink(path()));
+  expectSaved(path("nieuw.bmp"), 617, 537);
+}
+
+// 115 centimetres a side.
+TEST_F(Saving, TheLargestSheetsAreReadBack) {
+  SavePicture(Picture(std::make_shared<raster::Bitmap>(4346, 4346, 0xFF123456)), path());
+  const Picture again = LoadPicture(path());
+  ASSERT_EQ(again.width(), 4346);
+  ASSERT_EQ(again.height(), 4346);
+  EXPECT_EQ(again.bitmap()->at(4345, 4345), 0xFF123456);
+}
+
 TEST_F(Saving, AClosedFolderTakesNoNewFile) {
   bystander(100);
   closeTheFolder();

@@ -25,12 +25,12 @@ namespace {
 
 using Bytes = std::string;
 
-constexpr int SecondsAllowed = 2;          // of work
-constexpr int SecondsOfPatience = 60;      // of waiting, on a busy machine
-constexpr std::size_t Largest = 64 << 20;  // bytes of one decoded picture
+constexpr int SecondsAllowed = 2;             // of work
+constexpr int SecondsOfPatience = 60;         // of waiting, on a busy machine
+constexpr std::size_t Largest = 256'000'000;  // bytes of one decoded picture
 constexpr std::size_t Slack = 2 << 20;
-// The decoded picture, its copy in another format, and the copy that the program keeps.
-constexpr std::size_t Together = 3 * Largest + Slack;
+// The file, what the decoder holds, and the picture.
+constexpr std::size_t Together = (256 << 20) + Slack;
 
 Bytes mangled;
 

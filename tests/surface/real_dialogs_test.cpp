@@ -1,16 +1,22 @@
 // The toolkit's own dialogs behind the seams, answered by hand: Dutch buttons, answers, cancels.
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QApplication>
+#include <QClipboard>
 #include <QColorDialog>
 #include <QComboBox>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QMimeData>
+#include <QScreen>
 #include <QTest>
 #include <QTimer>
+#include <filesystem>
 #include <fstream>
 #include <functional>
 
+#include "support/errors.h"
 #include "support/script.h"
 #include "surface/host.h"
 #include "surface/qt/dialogs.h"
@@ -123,6 +129,73 @@ TEST_F(RealDialogs, TheSaveDialogTakesAnyNameAndAsksNothingItself) {
   }
 }
 
+// A child that tries keys must not lose what it has made.
+TEST_F(RealDialogs, NoKeyInAFileDialogDeletesOrRenamesAnything) {
+  const std::string drawings = folder() + "/tekeningen";
+  std::filesystem::create_directory(drawings);
+  std::ofstream(drawings + "/oma.bmp") << "x";
+  std::ofstream(folder() + "/opa.bmp") << "x";
+  for (const bool save : {false, true}) {
+    whenOpen<QFileDialog>([&](QFileDialog& dialog) {
+      EXPECT_TRUE(dialog.testOption(QFileDialog::ReadOnly));
+      dialog.setDirectory(QString::fromStdString(folder()));
+      for (QAbstractItemView* view : dialog.findChildren<QAbstractItemView*>("treeView")) {
+        QTRY_COMPARE(view->model()->rowCount(view->rootIndex()), 2);
+        EXPECT_EQ(view->contextMenuPolicy(), Qt::NoContextMenu);
+        EXPECT_EQ(view->editTriggers(), QAbstractItemView::NoEditTriggers);
+        for (int row = 0; row < 2; ++row) {
+          view->setCurrentIndex(view->model()->index(row, 0, view->rootIndex()));
+          // The dialog would ask; the Enter says yes.
+          QTimer::singleShot(0, [] {
+            auto* asked = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (asked) QTest::keyClick(asked, Qt::Key_Return);
+          });
+          QTest::keyClick(view, Qt::Key_Delete);
+          QTest::keyClick(view, Qt::Key_F2);
+        }
+      }
+      dialog.reject();
+    });
+    EXPECT_EQ(host().fileDialog({save, "Alle bestanden|*.*", 1}), std::nullopt);
+  }
+  EXPECT_TRUE(std::filesystem::exists(drawings + "/oma.bmp"));
+  EXPECT_TRUE(std::filesystem::exists(folder() + "/opa.bmp"));
+}
+
+TEST_F(RealDialogs, TheRarerTextsAreDutchToo) {
+  const auto dutch = [](const char* context, const char* source) {
+    return QCoreApplication::translate(context, source).toStdString();
+  };
+  EXPECT_EQ(dutch("QFileDialog", "&Rename"), "He&rnoemen");
+  EXPECT_EQ(dutch("QFileDialog", "Back"), "Terug");
+  EXPECT_EQ(dutch("QPlatformTheme", "Retry"), "Opnieuw proberen");
+  EXPECT_EQ(dutch("QFileSystemModel", "Type"), "Soort") << "our own word";
+}
+
+TEST_F(RealDialogs, AMessageOfManyLinesIsNoLargerThanTheScreen) {
+  std::string lines, line(20'000, 'w');
+  for (int i = 0; i < 200; ++i) lines += "regel " + std::to_string(i) + "\n";
+  for (const std::string& text : {lines, line}) {
+    whenOpen<QMessageBox>([](QMessageBox& box) {
+      const QSize screen = box.screen()->availableSize();
+      EXPECT_LE(box.width(), screen.width());
+      EXPECT_LE(box.height(), screen.height());
+      EXPECT_FALSE(box.windowTitle().contains('\n'));
+      choose(box, "OK");
+    });
+    MsgBox(text, Critical, text);
+  }
+}
+
+TEST_F(RealDialogs, AMessageCannotBeMadeSmallOrLarge) {
+  whenOpen<QMessageBox>([](QMessageBox& box) {
+    EXPECT_FALSE(box.windowFlags() & Qt::WindowMinMaxButtonsHint);
+    EXPECT_TRUE(box.windowFlags() & Qt::WindowCloseButtonHint);
+    choose(box, "OK");
+  });
+  MsgBox("Klaar");
+}
+
 TEST_F(RealDialogs, TheColourDialogStartsAtItsColourAndGivesTheChosenOne) {
   whenOpen<QColorDialog>([](QColorDialog& dialog) {
     EXPECT_EQ(dialog.currentColor(), QColor(0x11, 0x22, 0x33));
@@ -141,6 +214,28 @@ TEST_F(RealDialogs, AnUntrappedErrorIsShownWithItsText) {
     choose(box, "OK");
   });
   host().errorReport("Division by zero");
+}
+
+TEST_F(RealDialogs, AClipboardWithABrokenPictureIsAnErrorAndOneWithoutIsEmpty) {
+  auto* broken = new QMimeData;
+  broken->setData("image/png", "dit is geen plaatje");
+  broken->setData("application/x-qt-image", "dit is geen plaatje");
+  QGuiApplication::clipboard()->setMimeData(broken);
+  EXPECT_ERROR(BadFile, Clipboard::GetData(Clipboard::Bitmap));
+  QGuiApplication::clipboard()->setText("tekst");
+  EXPECT_TRUE(Clipboard::GetData(Clipboard::Bitmap).empty());
+}
+
+TEST_F(RealDialogs, OfAHugePictureOnTheClipboardTheUpperLeftPartIsTaken) {
+  QImage image(40'000, 20, QImage::Format_RGB32);
+  image.fill(0xFF102030);
+  image.setPixel(32766, 19, 0xFFFFEE01);
+  QGuiApplication::clipboard()->setImage(image);
+  const Picture taken = Clipboard::GetData(Clipboard::Bitmap);
+  ASSERT_EQ(taken.width(), 32767);
+  ASSERT_EQ(taken.height(), 20);
+  EXPECT_EQ(taken.bitmap()->at(32766, 19), 0xFFFFEE01);
+  QGuiApplication::clipboard()->clear();
 }
 
 TEST_F(RealDialogs, TheSystemsClipboardKeepsAPicture) {

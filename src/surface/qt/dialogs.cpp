@@ -2,18 +2,24 @@
 // speak Dutch.
 #include "surface/qt/dialogs.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QClipboard>
 #include <QColorDialog>
 #include <QDir>
 #include <QFileDialog>
 #include <QHeaderView>
+#include <QImageReader>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPushButton>
+#include <QScreen>
+#include <QSettings>
 #include <QStandardPaths>
+#include <QToolButton>
 #include <QTreeView>
+#include <algorithm>
 
 #include "surface/dialogs.h"
 #include "surface/dispatch.h"
@@ -36,13 +42,53 @@ QStringList filtersOf(const std::string& filter) {
   return rows;
 }
 
+// A dialog is moved and closed; to make it small or as large as the screen is of no use.
+constexpr Qt::WindowFlags DialogFlags = Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                                        Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
+
+// A line in pieces that are no wider than this; one that fits stays as it is.
+void addPieces(const QString& line, const QFontMetrics& metrics, int width, QStringList& pieces) {
+  qsizetype start = 0;
+  while (metrics.horizontalAdvance(line.mid(start)) > width) {
+    qsizetype fitting = 1, tooLong = line.size() - start;
+    while (fitting + 1 < tooLong) {
+      const qsizetype middle = (fitting + tooLong) / 2;
+      (metrics.horizontalAdvance(line.mid(start, middle)) > width ? tooLong : fitting) = middle;
+    }
+    pieces += line.mid(start, fitting);
+    start += fitting;
+  }
+  pieces += line.mid(start);
+}
+
+// A text as it fits on the screen together with its buttons: what is too long loses its middle.
+QString fitting(const QString& text, const QFontMetrics& metrics) {
+  constexpr qsizetype Longest = 20'000;
+  const QSize screen = QGuiApplication::primaryScreen()->availableSize();
+  const int width = screen.width() * 2 / 3, mostLines = screen.height() * 2 / 3 / metrics.height();
+  QStringList lines;
+  const bool huge = text.size() > Longest;
+  const QString shown = huge ? text.left(Longest / 2) + "\n" + text.right(Longest / 2) : text;
+  for (QString line : shown.split('\n')) {
+    if (line.endsWith('\r')) line.chop(1);
+    addPieces(line, metrics, width, lines);
+  }
+  if (lines.size() <= mostLines && !huge) return text;
+  const int part = std::max(1, std::min<int>(mostLines, static_cast<int>(lines.size())) / 2 - 1);
+  return (lines.first(part) + QStringList("…") + lines.last(part)).join('\n');
+}
+
+// A title is one line.
+QString titleOf(const std::string& text) {
+  constexpr int Longest = 200;
+  QString title = QString::fromStdString(text).left(Longest);
+  return title.replace('\n', ' ').replace('\r', ' ');
+}
+
 // Where the child was last, at first among the pictures. The last part of a folder that is not
 // there would be taken for a file's name.
 QString& folder() {
-  static QString last = [] {
-    const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
-    return QDir(pictures).exists() ? pictures : QDir::homePath();
-  }();
+  static QString last = QFile::decodeName(picturesFolder().c_str());
   return last;
 }
 
@@ -68,6 +114,24 @@ void widenColumns(QFileDialog& dialog) {
   files->header()->setSectionResizeMode(0, QHeaderView::Stretch);
 }
 
+// Pictures are chosen and named here; nothing is deleted, renamed or moved, by no key and no menu.
+void protectFiles(QFileDialog& dialog) {
+  dialog.setOption(QFileDialog::ReadOnly);
+  if (auto* newFolder = dialog.findChild<QToolButton*>("newFolderButton")) newFolder->hide();
+  for (QAbstractItemView* view : dialog.findChildren<QAbstractItemView*>()) {
+    view->setContextMenuPolicy(Qt::NoContextMenu);
+    view->setDragDropMode(QAbstractItemView::NoDragDrop);
+    view->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  }
+}
+
+// Dialogs of the toolkit write down their sizes and where they were. Beneath a file nothing can be
+// made.
+void keepNothing() {
+  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
+                     QCoreApplication::applicationFilePath());
+}
+
 QWidget* owner() { return QApplication::activeWindow(); }
 
 // A window that stays above all others would hide a dialog that opens in its place.
@@ -77,13 +141,19 @@ void keepAbove(QDialog& dialog) {
 
 }  // namespace
 
+std::string picturesFolder() {
+  const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+  return QFile::encodeName(QDir(pictures).exists() ? pictures : QDir::homePath()).toStdString();
+}
+
 int msgBox(const std::string& text, int buttons, const std::string& title) {
   showPending();
   QMessageBox box(owner());
+  box.setWindowFlags(DialogFlags);
   keepAbove(box);
-  box.setWindowTitle(QString::fromStdString(title));
+  box.setWindowTitle(titleOf(title));
   box.setTextFormat(Qt::PlainText);
-  box.setText(QString::fromStdString(text));
+  box.setText(fitting(QString::fromStdString(text), box.fontMetrics()));
   if (buttons & Critical) box.setIcon(QMessageBox::Critical);
   if (buttons & YesNo) {
     box.setIcon(QMessageBox::Question);
@@ -102,8 +172,9 @@ std::optional<std::string> inputBox(const std::string& prompt, const std::string
                                     const std::string& initial) {
   showPending();
   QInputDialog dialog(owner());
+  dialog.setWindowFlags(DialogFlags);
   keepAbove(dialog);
-  dialog.setWindowTitle(QString::fromStdString(title));
+  dialog.setWindowTitle(titleOf(title));
   dialog.setLabelText(QString::fromStdString(prompt));
   dialog.setTextValue(QString::fromStdString(initial));
   dialog.setOkButtonText("OK");
@@ -114,6 +185,7 @@ std::optional<std::string> inputBox(const std::string& prompt, const std::string
 
 std::optional<std::string> fileDialog(const FileRequest& request) {
   showPending();
+  keepNothing();
   QFileDialog dialog(owner(), request.save ? "Opslaan als" : "Openen", folder());
   keepAbove(dialog);
   dialog.setOption(QFileDialog::DontUseNativeDialog);
@@ -131,6 +203,7 @@ std::optional<std::string> fileDialog(const FileRequest& request) {
   dialog.setLabelText(QFileDialog::FileName, "Bestands&naam:");
   dialog.setLabelText(QFileDialog::FileType, "Soort bestand:");
   widenColumns(dialog);
+  protectFiles(dialog);
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
   folder() = dialog.directory().absolutePath();
   return dialog.selectedFiles().first().toStdString();
@@ -138,7 +211,9 @@ std::optional<std::string> fileDialog(const FileRequest& request) {
 
 std::optional<Color> colorDialog(Color initial, int flags) {
   showPending();
+  keepNothing();
   QColorDialog dialog(toQColor(initial), owner());
+  dialog.setWindowFlags(DialogFlags);
   keepAbove(dialog);
   dialog.setWindowTitle("Kleur");
   dialog.setOption(QColorDialog::DontUseNativeDialog);
@@ -149,10 +224,14 @@ std::optional<Color> colorDialog(Color initial, int flags) {
 
 void errorReport(const std::string& text) {
   QMessageBox box(owner());
+  box.setWindowFlags(DialogFlags);
   keepAbove(box);
   box.setWindowTitle("KRAS PRET");
   box.setIcon(QMessageBox::Critical);
-  box.setText("Er is een fout opgetreden, het programma stopt:\n\n" + QString::fromStdString(text));
+  box.setTextFormat(Qt::PlainText);
+  box.setText(
+      fitting("Er is een fout opgetreden, het programma stopt:\n\n" + QString::fromStdString(text),
+              box.fontMetrics()));
   box.addButton("OK", QMessageBox::AcceptRole);
   box.exec();
 }
@@ -176,8 +255,8 @@ void setClipboard(const Picture& picture) {
 Picture getClipboard() {
   const QMimeData* data = QGuiApplication::clipboard()->mimeData();
   if (!data || !data->hasImage()) return {};
-  const QImage image = QGuiApplication::clipboard()->image();
-  return image.isNull() ? Picture() : toPicture(image);
+  QImageReader::setAllocationLimit(MostMegabytesDecoded);
+  return takenPicture(QGuiApplication::clipboard()->image());
 }
 
 }  // namespace surface::qt

@@ -8,6 +8,9 @@
 
 namespace surface::qt {
 
+/// The user's folder for pictures, or the home folder if there is none.
+std::string picturesFolder();
+
 int msgBox(const std::string& text, int buttons, const std::string& title);
 std::optional<std::string> inputBox(const std::string& prompt, const std::string& title,
                                     const std::string& initial);

@@ -6,9 +6,11 @@
 #include <QPainter>
 #include <QScreen>
 #include <QWindow>
+#include <algorithm>
 #include <cstdlib>
 #include <vector>
 
+#include "surface/controls.h"
 #include "surface/qt/peers.h"
 #include "surface/qt/pointer.h"
 #include "surface/qt/surface_widget.h"
@@ -25,6 +27,17 @@ Qt::WindowFlags flagsOf(const Form& form) {
     flags |= Qt::Tool | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint;
   if (form.topMost()) flags |= Qt::WindowStaysOnTopHint;
   return flags;
+}
+
+// What the controls need that can be seen at some time, within the size that the form is made for:
+// a sheet that has grown beyond it does not make the window scroll.
+QSize leastSize(const Form& form) {
+  const raster::Rect design = form.innerPixels();
+  raster::Rect needed;
+  for (Control* control : form.controls())
+    if (control->Visible || dynamic_cast<const Frame*>(control))
+      needed = raster::unite(needed, control->pixelPlace());
+  return {std::min(design.right, needed.right), std::min(design.bottom, needed.bottom)};
 }
 
 void addStop(const Control& control, std::vector<QWidget*>& stops) {
@@ -59,14 +72,14 @@ class FormWindowPeer : public FormPeer {
   }
   void hide() override { window_->hide(); }
   void addControl(Control& control) override {
-    makePeerLate(control, *window_);
+    makePeerLate(control, window_->canvas());
     window_->orderStops();
   }
   void update() override { window_->sync(); }
   void move() override { window_->place(); }
   void resize() override { window_->fit(); }
   void showPixels(const raster::Rect& area, bool atOnce) override {
-    qt::showPixels(*window_, area, atOnce);
+    qt::showPixels(window_->canvas(), area, atOnce);
   }
 
  private:
@@ -79,15 +92,42 @@ std::unique_ptr<FormPeer> makeFormPeer(Form& form) {
   return std::make_unique<FormWindowPeer>(form);
 }
 
-FormWindow::FormWindow(Form& owner) : QWidget(nullptr, flagsOf(owner)), form(&owner) {
+FormCanvas::FormCanvas(FormWindow& owner) : window_(owner) {
   setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void FormCanvas::paintEvent(QPaintEvent* event) {
+  if (!window_.form) return;
+  QPainter painter(this);
+  paintSurface(painter, *window_.form, event->rect());
+}
+
+void FormCanvas::resizeEvent(QResizeEvent* event) {
+  if (window_.form && window_.form->BorderStyle == Form::Border::Sizable)
+    dispatch([&] { window_.form->windowResized(event->size().width(), event->size().height()); });
+}
+
+void FormCanvas::mouseReleaseEvent(QMouseEvent* event) {
+  if (window_.form) dispatch([&] { window_.form->MouseUp(toMouse(*event, *window_.form)); });
+}
+
+FormWindow::FormWindow(Form& owner)
+    : QWidget(nullptr, flagsOf(owner)),
+      form(&owner),
+      scroll_(new QScrollArea(this)),
+      canvas_(new FormCanvas(*this)) {
+  scroll_->setFrameShape(QFrame::NoFrame);
+  scroll_->setFocusPolicy(Qt::NoFocus);
+  scroll_->setWidgetResizable(true);
+  scroll_->setWidget(canvas_);
+  if (owner.BorderStyle == Form::Border::Sizable) canvas_->setMinimumSize(leastSize(owner));
   takeSize();
   if (owner.placed())
     place();
   else if (owner.Centred)
     move(middle());
   sync();
-  makePeers(owner, *this);
+  makePeers(owner, *canvas_);
   orderStops();
 }
 
@@ -142,29 +182,16 @@ void FormWindow::place() {
     move(corner);
 }
 
-void FormWindow::paintEvent(QPaintEvent* event) {
-  if (!form) return;
-  QPainter painter(this);
-  paintSurface(painter, *form, event->rect());
-}
-
 void FormWindow::closeEvent(QCloseEvent* event) {
   // The model decides whether the window goes.
   event->ignore();
   if (form) dispatch([this] { form->closeBoxPressed(); });
 }
 
-void FormWindow::resizeEvent(QResizeEvent* event) {
-  if (form && form->BorderStyle == Form::Border::Sizable)
-    dispatch([&] { form->windowResized(event->size().width(), event->size().height()); });
-}
+void FormWindow::resizeEvent(QResizeEvent*) { scroll_->setGeometry(rect()); }
 
 void FormWindow::moveEvent(QMoveEvent*) {
   if (form && !isMaximized()) form->windowMoved(pos().x(), pos().y());
-}
-
-void FormWindow::mouseReleaseEvent(QMouseEvent* event) {
-  if (form) dispatch([&] { form->MouseUp(toMouse(*event, *form)); });
 }
 
 }  // namespace surface::qt

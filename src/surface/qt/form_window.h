@@ -2,11 +2,29 @@
 #pragma once
 
 #include <QPointer>
+#include <QScrollArea>
 #include <QWidget>
 
 #include "surface/form.h"
 
 namespace surface::qt {
+
+class FormWindow;
+
+/// The inside of the window: the form's own drawing with its controls above it. It is as large as
+/// the window, or as its controls need it.
+class FormCanvas : public QWidget {
+ public:
+  explicit FormCanvas(FormWindow& owner);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+
+ private:
+  FormWindow& window_;
+};
 
 class FormWindow : public QWidget {
  public:
@@ -19,20 +37,23 @@ class FormWindow : public QWidget {
   void fit();
   /// Puts the stops of the Tab key into the order of the declarations.
   void orderStops();
+  FormCanvas& canvas() { return *canvas_; }
 
   Form* form;
 
  protected:
-  void paintEvent(QPaintEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void moveEvent(QMoveEvent* event) override;
-  void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:
   void takeSize();
   /// Where the window stands in the middle of the screen.
   QPoint middle() const;
+
+  // Scrolls when the window is too small for what it shows.
+  QScrollArea* scroll_;
+  FormCanvas* canvas_;
 };
 
 std::unique_ptr<FormPeer> makeFormPeer(Form& form);

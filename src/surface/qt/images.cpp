@@ -1,18 +1,16 @@
-// Reading trusts nothing: a whitelist of formats, and a cap on the size before anything is decoded.
-// Writing destroys nothing.
+// Reading trusts nothing: a whitelist of formats, and caps on bytes, pixels and work before
+// anything is decoded.
 #include "surface/qt/images.h"
 
 #include <QBuffer>
-#include <QFile>
-#include <QFileInfo>
 #include <QFontMetrics>
 #include <QImageReader>
 #include <QPainter>
-#include <QSaveFile>
 #include <algorithm>
-#include <cstdlib>
 #include <cstring>
 
+#include "surface/bmp.h"
+#include "surface/disk.h"
 #include "surface/errors.h"
 #include "surface/qt/picture_bytes.h"
 #include "surface/qt/text_layout.h"
@@ -20,61 +18,175 @@
 namespace surface::qt {
 namespace {
 
-constexpr int LargestMegabytes = 64;
-constexpr int LargestSide = 32767;
-// No picture within the limits takes more, and a file of any length is read at once.
-constexpr qint64 LargestFile = qint64{256} << 20;
-
-[[noreturn]] void cannotWrite() {
-  throw RuntimeError(ErrorKind::CannotWrite, "File cannot be written");
-}
+constexpr qint64 MostBytesRead = qint64{64} << 20;
+// What the file, the decoder and the picture take together.
+constexpr qint64 MostMemory = qint64{256} << 20;
+// Both cost well under a second.
+constexpr int MostSegments = 10'000;
+constexpr qint64 MostBlocksVisited = 50'000'000;
 
 [[noreturn]] void badFile() { throw RuntimeError(ErrorKind::BadFile, "Invalid picture"); }
 
-bool sizeAllowed(QSize size) {
-  const qint64 width = size.width();
-  // A bitmap whose rows run downwards has a negative height.
-  const qint64 height = std::abs(qint64{size.height()});
-  return width > 0 && height > 0 && width <= LargestSide && height <= LargestSide &&
-         width * height * 4 <= qint64{LargestMegabytes} << 20;
+void refuseUnless(bool good) {
+  if (!good) badFile();
 }
 
-QByteArray encoded(const Picture& picture) {
+// The file's size is not asked: some of the system's own files have no end.
+QByteArray readAll(std::FILE* file) {
+  constexpr qsizetype Part = qsizetype{1} << 20;
   QByteArray bytes;
-  QBuffer buffer(&bytes);
-  buffer.open(QIODevice::WriteOnly);
-  if (!wrapped(*picture.bitmap()).convertToFormat(QImage::Format_RGB888).save(&buffer, "BMP"))
-    cannotWrite();
+  for (qsizetype count = Part; count == Part && bytes.size() <= MostBytesRead;) {
+    const qsizetype former = bytes.size();
+    bytes.resize(former + Part);
+    count = static_cast<qsizetype>(std::fread(bytes.data() + former, 1, Part, file));
+    bytes.resize(former + count);
+  }
+  refuseUnless(bytes.size() <= MostBytesRead);
+  bytes.squeeze();
   return bytes;
 }
 
-bool writeAll(QFileDevice& file, const QByteArray& bytes) {
-  // A full disk shows in the count that was taken, not in an error, and only once the buffer is
-  // emptied.
-  return file.write(bytes) == bytes.size() && file.flush();
+bool pixelsAllowed(QSize size) {
+  return size.width() > 0 && size.height() > 0 &&
+         qint64{size.width()} * size.height() <= MostPixelsInFile;
 }
 
-// Writes over the file itself; if that fails, its former contents come back, for which the room is
-// there.
-void writeInPlace(const QString& name, const QByteArray& bytes) {
-  QFile file(name);
-  const bool existed = file.exists();
-  QByteArray former;
-  bool good = file.open(QIODevice::ReadWrite);
-  if (good) {
-    former = file.readAll();
-    good = file.seek(0) && writeAll(file, bytes) && file.resize(bytes.size());
+/// How a camera was held: the picture in the file is mirrored, turned over and then turned a
+/// quarter to the right, or only some of that.
+class Turn {
+ public:
+  explicit Turn(QImageIOHandler::Transformations turn) : turn_(turn) {}
+
+  bool none() const { return turn_ == QImageIOHandler::TransformationNone; }
+  QSize shown(QSize inFile) const { return quarter() ? inFile.transposed() : inFile; }
+
+  /// Where in the file the upper left part of the shown picture stands.
+  QRect inFile(QSize whole, QSize shownPart) const {
+    const QSize part = quarter() ? shownPart.transposed() : shownPart;
+    const bool right = mirrored(), bottom = turnedOver() != quarter();
+    return {QPoint(right ? whole.width() - part.width() : 0,
+                   bottom ? whole.height() - part.height() : 0),
+            part};
   }
-  if (good) return;
-  if (file.isOpen() && existed) {
-    file.seek(0);
-    file.write(former);
-    file.flush();
-    file.resize(former.size());
-  } else if (file.isOpen()) {
-    file.remove();
+
+  /// The picture as it is to be shown; `from` is what the above has cut out.
+  Picture applied(const QImage& from) const {
+    const QSize size = shown(from.size());
+    auto bitmap = std::make_shared<raster::Bitmap>(size.width(), size.height(), 0xFFFFFFFF);
+    const auto* const pixels = reinterpret_cast<const raster::Pixel*>(from.constBits());
+    const qsizetype line = from.bytesPerLine() / 4;
+    for (int y = 0; y < size.height(); ++y) {
+      raster::Pixel* const row = bitmap->row(y);
+      for (int x = 0; x < size.width(); ++x) {
+        int fromX = quarter() ? y : x, fromY = quarter() ? from.height() - 1 - x : y;
+        if (mirrored()) fromX = from.width() - 1 - fromX;
+        if (turnedOver()) fromY = from.height() - 1 - fromY;
+        row[x] = pixels[fromY * line + fromX] | 0xFF000000;
+      }
+    }
+    return Picture(std::move(bitmap));
   }
-  cannotWrite();
+
+ private:
+  bool mirrored() const { return turn_ & QImageIOHandler::TransformationMirror; }
+  bool turnedOver() const { return turn_ & QImageIOHandler::TransformationFlip; }
+  bool quarter() const { return turn_ & QImageIOHandler::TransformationRotate90; }
+
+  QImageIOHandler::Transformations turn_;
+};
+
+/// A decoder on bytes in memory.
+struct Decoder {
+  explicit Decoder(QByteArray& bytes) : buffer(&bytes) {
+    buffer.open(QIODevice::ReadOnly);
+    reader.setDevice(&buffer);
+    reader.setAutoTransform(false);
+  }
+
+  QBuffer buffer;
+  QImageReader reader;
+};
+
+// Decodes into the picture's own memory where the decoder can.
+Picture decodedPart(QByteArray& bytes, const QRect& part, const Turn& turn) {
+  Decoder decoder(bytes);
+  decoder.reader.setClipRect(part);
+  if (!turn.none()) {
+    const QImage image = decoder.reader.read();
+    refuseUnless(image.size() == part.size());
+    return turn.applied(image.depth() == 32 ? image : image.convertToFormat(QImage::Format_RGB32));
+  }
+  auto bitmap = std::make_shared<raster::Bitmap>(part.width(), part.height(), 0xFFFFFFFF);
+  uchar* const pixels = reinterpret_cast<uchar*>(bitmap->row(0));
+  QImage image(pixels, part.width(), part.height(), qsizetype{4} * part.width(),
+               QImage::Format_RGB32);
+  refuseUnless(decoder.reader.read(&image) && image.size() == part.size());
+  return image.constBits() == pixels ? Picture(std::move(bitmap)) : toPicture(image);
+}
+
+bool alike(const Picture& a, const Picture& b) {
+  const auto bytes = static_cast<std::size_t>(a.width()) * a.height() * sizeof(raster::Pixel);
+  return std::memcmp(a.bitmap()->row(0), b.bitmap()->row(0), bytes) == 0;
+}
+
+// A JPEG comes in strips: of a large one as many are decoded as there is room for.
+Picture decodeJpeg(QByteArray& bytes) {
+  const JpegFacts facts = readJpegFacts(bytes);
+  refuseUnless(facts.complete && facts.segments <= MostSegments);
+  const int passes = facts.ended ? 1 : 2;
+  refuseUnless(facts.blocksVisited * passes <= MostBlocksVisited);
+  QSize whole;
+  QImageIOHandler::Transformations orientation;
+  {
+    Decoder decoder(bytes);
+    whole = decoder.reader.size();
+    orientation = decoder.reader.transformation();
+  }
+  refuseUnless(pixelsAllowed(whole));
+  const Turn turn(orientation);
+  const QSize shown = turn.shown(whole);
+  const qint64 room = MostMemory - bytes.size() - facts.coefficientBytes;
+  // Shades of grey come as one byte first.
+  const qint64 bytesPerPixel = (facts.grey ? 5 : 4) * (passes + (turn.none() ? 0 : 1));
+  const int columns = std::min(shown.width(), LargestSideKept);
+  const int rows = rowsKept(shown.width(), shown.height(),
+                            std::min<qint64>(MostPixelsKept, room / bytesPerPixel));
+  refuseUnless(room > 0 && rows > 0);
+  const QRect part = turn.inFile(whole, QSize(columns, rows));
+  if (facts.ended) return decodedPart(bytes, part, turn);
+
+  // Without its end mark a picture is complete if what follows its last byte makes no difference.
+  static const QByteArray end("\xFF\xD9", 2);
+  while (bytes.endsWith('\xFF')) bytes.chop(1);
+  const qsizetype size = bytes.size();
+  bytes += end;
+  Picture picture = decodedPart(bytes, part, turn);
+  bytes.resize(size);
+  bytes += QByteArray(64, '\xB5') + end;
+  refuseUnless(alike(picture, decodedPart(bytes, part, turn)));
+  return picture;
+}
+
+// Any other kind is decoded whole or not at all.
+Picture decodeWhole(QByteArray& bytes) {
+  Decoder decoder(bytes);
+  const QSize size = decoder.reader.size();
+  refuseUnless(pixelsAllowed(size) && size.width() <= LargestSideKept &&
+               size.height() <= LargestSideKept);
+  // The decoder's image, and the picture made of it.
+  refuseUnless(bytes.size() + qint64{8} * size.width() * size.height() <= MostMemory);
+  const QImage image = decoder.reader.read();
+  refuseUnless(pixelsAllowed(image.size()));
+  return toPicture(image);
+}
+
+Picture decoded(QByteArray bytes) {
+  QImageReader::setAllocationLimit(MostMegabytesDecoded);
+  const QByteArray format = Decoder(bytes).reader.format();
+  if (format == "jpeg" || format == "jpg") return decodeJpeg(bytes);
+  if (format == "gif") refuseUnless(isWholeGif(bytes));
+  refuseUnless(format == "gif" || format == "ico" || format == "cur");
+  return decodeWhole(bytes);
 }
 
 }  // namespace
@@ -96,10 +208,16 @@ Picture toPicture(const QImage& image) {
     if (std::any_of(coverage.begin(), coverage.end(), [](std::uint8_t part) { return part < 255; }))
       return Picture(std::move(bitmap), std::move(coverage));
   } else {
-    const QImage opaque = image.convertToFormat(QImage::Format_RGB32);
+    // Strip by strip, so that a large image is not there a third time.
+    constexpr int StripRows = 64;
+    QImage strip;
     for (int y = 0; y < image.height(); ++y) {
+      if (y % StripRows == 0)
+        strip = image.copy(0, y, image.width(), std::min(StripRows, image.height() - y))
+                    .convertToFormat(QImage::Format_RGB32);
       raster::Pixel* row = bitmap->row(y);
-      std::memcpy(row, opaque.constScanLine(y), static_cast<std::size_t>(image.width()) * 4);
+      std::memcpy(row, strip.constScanLine(y % StripRows),
+                  static_cast<std::size_t>(image.width()) * 4);
       std::for_each(row, row + image.width(), [](raster::Pixel& pixel) { pixel |= 0xFF000000; });
     }
   }
@@ -112,44 +230,31 @@ QImage wrapped(const raster::Bitmap& bitmap) {
 }
 
 Picture loadPicture(const std::string& path) {
-  const QString name = QString::fromStdString(path);
-  const QFileInfo info(name);
-  if (!info.exists()) throw RuntimeError(ErrorKind::FileNotFound, "File not found");
-  // A pipe would wait for ever, a device has no end.
-  if (!info.isFile()) badFile();
-  QFile file(name);
-  if (info.size() > LargestFile || !file.open(QIODevice::ReadOnly)) badFile();
-  const QByteArray bytes = file.readAll();
-  QBuffer buffer;
-  buffer.setData(bytes);
-  buffer.open(QIODevice::ReadOnly);
-  QImageReader::setAllocationLimit(LargestMegabytes);
-  QImageReader reader(&buffer);
-  reader.setDecideFormatFromContent(true);
-  reader.setAutoTransform(true);
-  static const QByteArrayList known = {"bmp", "gif", "jpg", "jpeg", "ico", "cur"};
-  const QByteArray format = reader.format();
-  if (!known.contains(format) || !sizeAllowed(reader.size()) || !isWhole(format, bytes)) badFile();
-  QImage image = reader.read();
-  if (image.isNull() || !sizeAllowed(image.size())) badFile();
-  widenShades(image, format, bytes);
-  return toPicture(image);
+  const File file = openFile(path);
+  const int first = std::getc(file.get());
+  std::rewind(file.get());
+  switch (first) {
+    case 'B':
+      return readBmp(file.get());
+    case 'G':   // GIF
+    case 0xFF:  // JPEG
+    case 0x00:  // icon and cursor
+      return decoded(readAll(file.get()));
+    default:
+      badFile();
+  }
 }
 
 void savePicture(const Picture& picture, const std::string& path) {
   if (picture.empty()) throw RuntimeError(ErrorKind::BadPropertyValue, "Invalid picture");
-  const QByteArray bytes = encoded(picture);
-  const QString name = QString::fromStdString(path);
-  // A pipe would wait for ever, and a device is no place for a new file.
-  if (const QFileInfo info(name); info.exists() && !info.isFile()) cannotWrite();
-  QSaveFile beside(name);
-  if (beside.open(QIODevice::WriteOnly)) {
-    if (!writeAll(beside, bytes)) beside.cancelWriting();
-    if (beside.commit()) return;
-    cannotWrite();
-  }
-  // Some network folders refuse a second file beside the first.
-  writeInPlace(name, bytes);
+  replaceFile(path, [&](std::FILE* file) { return writeBmp(file, *picture.bitmap()); });
+}
+
+Picture takenPicture(const QImage& image) {
+  refuseUnless(!image.isNull());
+  const int rows = rowsKept(image.width(), image.height(), MostPixelsKept);
+  if (rows == image.height() && image.width() <= LargestSideKept) return toPicture(image);
+  return toPicture(image.copy(0, 0, std::min(image.width(), LargestSideKept), rows));
 }
 
 TextMask rasterText(const Font& font, const std::string& text) {

@@ -10,11 +10,17 @@
 
 namespace surface::qt {
 
+/// The decoders refuse an image that takes more.
+inline constexpr int MostMegabytesDecoded = 400;
+
 /// A copy as a picture object, with what is transparent in it.
 Picture toPicture(const QImage& image);
 /// The bitmap's own memory as an image, without a copy: valid only while the bitmap lives, and
 /// never to be kept.
 QImage wrapped(const raster::Bitmap& bitmap);
+
+/// A copy of an image from elsewhere, of a large one its upper left part. BadFile if it is none.
+Picture takenPicture(const QImage& image);
 
 /// Reads a BMP, GIF, JPEG, ICO or CUR file, told by its content. FileNotFound or BadFile.
 Picture loadPicture(const std::string& path);

@@ -1,9 +1,9 @@
 // Walks through the blocks of a picture file, without decoding anything.
 #include "surface/qt/picture_bytes.h"
 
-#include <QtEndian>
-#include <bit>
-#include <cstdlib>
+#include <algorithm>
+#include <array>
+#include <cstdint>
 
 namespace surface::qt {
 namespace {
@@ -21,10 +21,12 @@ class Walk {
     const int high = byte();
     return static_cast<quint16>(high << 8 | byte());
   }
+  qint64 place() const { return at_; }
+  void goTo(qint64 place) { at_ = place; }
   void skip(qint64 bytes) { at_ += bytes; }
   /// Goes on behind the next byte of this value.
   void skipTo(char value) {
-    const qint64 found = file_.indexOf(value, at_);
+    const qint64 found = past() ? -1 : file_.indexOf(value, at_);
     past_ |= found < 0;
     at_ = found + 1;
   }
@@ -36,53 +38,112 @@ class Walk {
   bool past_ = false;
 };
 
-template <class Integer>
-Integer littleEndian(const QByteArray& file, qint64 at) {
-  if (at + static_cast<qint64>(sizeof(Integer)) > file.size()) return 0;
-  return qFromLittleEndian<Integer>(file.constData() + at);
-}
-
-// What a bitmap's headers say. The oldest kind of second header is 12 bytes long and knows no
-// compression.
-struct BmpFields {
-  explicit BmpFields(const QByteArray& file) : start(littleEndian<quint32>(file, 10)) {
-    if (littleEndian<quint32>(file, 14) == 12) {
-      width = littleEndian<quint16>(file, 18);
-      height = littleEndian<quint16>(file, 20);
-      bits = littleEndian<quint16>(file, 24);
-      return;
-    }
-    width = littleEndian<qint32>(file, 18);
-    height = littleEndian<qint32>(file, 22);
-    bits = littleEndian<quint16>(file, 28);
-    compression = littleEndian<quint32>(file, 30);
-    pixelBytes = littleEndian<quint32>(file, 34);
-  }
-
-  bool runLengths() const { return compression == 1 || compression == 2; }
-  bool ownMasks() const { return compression == 3; }
-
-  qint64 start, width = 0, height = 0;
-  int bits = 0;
-  quint32 compression = 0;
-  qint64 pixelBytes = 0;
-};
-
-bool isWholeBmp(const QByteArray& file) {
-  const BmpFields bmp(file);
-  if (bmp.runLengths()) return bmp.start + bmp.pixelBytes <= file.size();
-  const qint64 stride = (bmp.width * bmp.bits + 31) / 32 * 4;
-  // A row that does not fit leaves the product out, which nothing could hold.
-  return bmp.width > 0 && stride <= file.size() &&
-         bmp.start + stride * std::abs(bmp.height) <= file.size();
-}
-
 // A GIF's colours come in tables whose size is a power of two.
 qint64 tableBytes(int flags) { return flags & 0x80 ? 3 * (2 << (flags & 7)) : 0; }
 
 void skipSubBlocks(Walk& walk) {
   for (int length = walk.byte(); length > 0; length = walk.byte()) walk.skip(length);
 }
+
+/// The segments of a JPEG file, one after the other.
+class JpegReader {
+ public:
+  explicit JpegReader(const QByteArray& file) : walk_(file, 0) {}
+
+  JpegFacts read() {
+    constexpr int Stuffed = 0x00, Temporary = 0x01, FirstRestart = 0xD0, Start = 0xD8, End = 0xD9,
+                  Fill = 0xFF;
+    while (!walk_.past()) {
+      // Within a scan the picture's own bytes lie between the markers.
+      walk_.skipTo('\xFF');
+      int marker = walk_.byte();
+      while (marker == Fill) marker = walk_.byte();
+      if (walk_.past()) break;
+      if (marker == End) {
+        facts_.ended = true;
+        break;
+      }
+      const bool alone =
+          marker <= Temporary || (marker >= FirstRestart && marker <= Start) || marker == Stuffed;
+      if (!alone) readSegment(marker);
+    }
+    facts_.complete = count_ > 0 && std::all_of(seen_.begin(), seen_.begin() + count_,
+                                                [](const auto& part) { return ~part.bits == 0; });
+    return facts_;
+  }
+
+ private:
+  struct Component {
+    int id = 0;
+    qint64 blocks = 0;
+    std::uint64_t bits = 0;  ///< one for each coefficient that has come in full precision
+  };
+
+  void readSegment(int marker) {
+    constexpr int FirstFrame = 0xC0, LastFrame = 0xCF, Huffman = 0xC4, Extension = 0xC8,
+                  Arithmetic = 0xCC, Scan = 0xDA;
+    ++facts_.segments;
+    const qint64 start = walk_.place();
+    const int length = walk_.bigEndian16();
+    if (marker == Scan) readScan();
+    if (marker >= FirstFrame && marker <= LastFrame && marker != Huffman && marker != Extension &&
+        marker != Arithmetic)
+      readFrame(marker);
+    walk_.goTo(start + std::max(2, length));
+  }
+
+  void readFrame(int marker) {
+    walk_.byte();
+    const qint64 height = walk_.bigEndian16(), width = walk_.bigEndian16();
+    count_ = std::min<int>(walk_.byte(), static_cast<int>(seen_.size()));
+    facts_.grey = count_ == 1;
+    std::array<int, 4> across{}, down{};
+    for (int i = 0; i < count_; ++i) {
+      seen_[i] = {walk_.byte()};
+      const int sampling = walk_.byte();
+      across[i] = std::clamp(sampling >> 4, 1, 4);
+      down[i] = std::clamp(sampling & 15, 1, 4);
+      walk_.byte();
+    }
+    const int widest = std::max(1, *std::max_element(across.begin(), across.end()));
+    const int highest = std::max(1, *std::max_element(down.begin(), down.end()));
+    const qint64 columns = width / (8 * widest) + 1, rows = height / (8 * highest) + 1;
+    for (int i = 0; i < count_; ++i) seen_[i].blocks = columns * across[i] * rows * down[i];
+    progressive_ = (marker & 3) == 2;
+    // That way of coding takes several times as long, and no camera uses it.
+    slowness_ = marker > 0xC8 ? 8 : 1;
+  }
+
+  void readScan() {
+    const int parts = std::min<int>(walk_.byte(), 4);
+    std::array<int, 4> ids{};
+    for (int i = 0; i < parts; ++i) {
+      ids[i] = walk_.byte();
+      walk_.byte();
+    }
+    const int first = walk_.byte(), last = walk_.byte(), precision = walk_.byte() & 15;
+    const bool buffered = progressive_ || parts < count_;
+    qint64 all = 0;
+    for (int i = 0; i < count_; ++i) {
+      all += seen_[i].blocks;
+      if (std::find(ids.begin(), ids.begin() + parts, seen_[i].id) == ids.begin() + parts) continue;
+      facts_.blocksVisited += seen_[i].blocks * slowness_;
+      for (int k = progressive_ ? first : 0; k <= (progressive_ ? last & 63 : 63); ++k)
+        if (!progressive_ || precision == 0) seen_[i].bits |= std::uint64_t{1} << k;
+    }
+    constexpr qint64 BlockBytes = 128;
+    if (buffered) facts_.coefficientBytes = all * BlockBytes;
+  }
+
+  Walk walk_;
+  JpegFacts facts_;
+  std::array<Component, 4> seen_{};
+  int count_ = 0;
+  bool progressive_ = false;
+  int slowness_ = 1;
+};
+
+}  // namespace
 
 bool isWholeGif(const QByteArray& file) {
   constexpr int Extension = 0x21, Image = 0x2C;
@@ -109,46 +170,6 @@ bool isWholeGif(const QByteArray& file) {
   return false;
 }
 
-bool isWholeJpeg(const QByteArray& file) {
-  constexpr int Stuffed = 0x00, FirstRestart = 0xD0, Start = 0xD8, End = 0xD9, Fill = 0xFF;
-  Walk walk(file, 0);
-  while (!walk.past()) {
-    // Within a scan the picture's own bytes lie between the markers.
-    walk.skipTo('\xFF');
-    int marker = walk.byte();
-    while (marker == Fill) marker = walk.byte();
-    if (marker == End) return !walk.past();
-    const bool alone = marker == Stuffed || (marker >= FirstRestart && marker <= Start);
-    if (!alone) walk.skip(qint64{walk.bigEndian16()} - 2);
-  }
-  return false;
-}
-
-// A shade of `bits` bits that the decoder has moved to the top of a byte; its upper bits fill the
-// byte up.
-quint32 widened(quint32 shade, int bits) { return shade | shade >> bits; }
-
-}  // namespace
-
-bool isWhole(const QByteArray& format, const QByteArray& file) {
-  if (format == "bmp") return isWholeBmp(file);
-  if (format == "gif") return isWholeGif(file);
-  if (format == "jpeg") return isWholeJpeg(file);
-  return true;
-}
-
-void widenShades(QImage& image, const QByteArray& format, const QByteArray& file) {
-  const BmpFields bmp(file);
-  if (format != "bmp" || bmp.bits != 16) return;
-  const int greenBits = bmp.ownMasks() ? std::popcount(littleEndian<quint32>(file, 58)) : 5;
-  image = image.convertToFormat(QImage::Format_RGB32);
-  for (int y = 0; y < image.height(); ++y) {
-    auto* row = reinterpret_cast<QRgb*>(image.scanLine(y));
-    for (int x = 0; x < image.width(); ++x)
-      row[x] = qRgb(static_cast<int>(widened(static_cast<quint32>(qRed(row[x])), 5)),
-                    static_cast<int>(widened(static_cast<quint32>(qGreen(row[x])), greenBits)),
-                    static_cast<int>(widened(static_cast<quint32>(qBlue(row[x])), 5)));
-  }
-}
+JpegFacts readJpegFacts(const QByteArray& file) { return JpegReader(file).read(); }
 
 }  // namespace surface::qt

@@ -1,19 +1,29 @@
-// What the toolkit's decoders let pass in a picture file and the program does not: a file that was
-// cut off, and dull colours in bitmaps of 16 bits.
+// What the toolkit's decoders do not tell about a picture file: whether it was cut off, and how
+// much work and memory it asks for.
 #pragma once
 
 #include <QByteArray>
-#include <QImage>
 
 namespace surface::qt {
 
-/// Whether the file holds all of its first picture. The decoders show white, black or grey where
-/// the rest is missing, and a child would save that over the whole picture. `format` is the
-/// decoder's name for the kind of file; only "bmp", "gif" and "jpeg" are looked into.
-bool isWhole(const QByteArray& format, const QByteArray& file);
+/// Whether a GIF file holds all of its first picture. The decoder shows the rest white, and a child
+/// would save that over the whole picture.
+bool isWholeGif(const QByteArray& file);
 
-/// In a bitmap of 16 bits a pixel the brightest of 32 shades is 31/31, not 248/255: white is white.
-/// Leaves any other file's image as it is.
-void widenShades(QImage& image, const QByteArray& format, const QByteArray& file);
+/// What the segments of a JPEG file say.
+struct JpegFacts {
+  /// Every component has come in its full precision; what a scan lacks is not told by this.
+  bool complete = false;
+  /// The end mark is there; a camera that lost its power leaves it out.
+  bool ended = false;
+  bool grey = false;
+  int segments = 0;
+  /// Blocks of 8 by 8 that the decoder goes through, those of every scan counted.
+  qint64 blocksVisited = 0;
+  /// What the decoder keeps of a picture that comes in several scans.
+  qint64 coefficientBytes = 0;
+};
+
+JpegFacts readJpegFacts(const QByteArray& file);
 
 }  // namespace surface::qt
