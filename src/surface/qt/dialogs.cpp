@@ -48,12 +48,16 @@ constexpr Qt::WindowFlags DialogFlags = Qt::Dialog | Qt::CustomizeWindowHint | Q
 
 // A line in pieces that are no wider than this; one that fits stays as it is.
 void addPieces(const QString& line, const QFontMetrics& metrics, int width, QStringList& pieces) {
+  constexpr qsizetype Longest = 1000;  // more letters than fit into any width
+  const auto fits = [&](qsizetype start, qsizetype count) {
+    return metrics.horizontalAdvance(line.mid(start, count)) <= width;
+  };
   qsizetype start = 0;
-  while (metrics.horizontalAdvance(line.mid(start)) > width) {
-    qsizetype fitting = 1, tooLong = line.size() - start;
+  while (line.size() - start > Longest || !fits(start, Longest)) {
+    qsizetype fitting = 1, tooLong = std::min(line.size() - start, Longest);
     while (fitting + 1 < tooLong) {
       const qsizetype middle = (fitting + tooLong) / 2;
-      (metrics.horizontalAdvance(line.mid(start, middle)) > width ? tooLong : fitting) = middle;
+      (fits(start, middle) ? fitting : tooLong) = middle;
     }
     pieces += line.mid(start, fitting);
     start += fitting;
