@@ -10,6 +10,27 @@ from studio import Studio, span
 class SmallScreen(Studio):
     size = (640, 480)
 
+    def setUp(self):
+        cls = type(self)
+        if cls.program is None:
+            cls.program = kraspret.start(self.desktop)
+            cls.program.wait_menu()
+        self.tab_to("Tekenen Groot")
+        self.desktop.key("space")
+        self.program.wait_window(kraspret.STUDIO)
+        self.sheet = self.program.sheet()
+
+    def tab_to(self, name):
+        """Goes from button to button with the Tab key; the one that is reached can be seen."""
+        button = self.program.control(name)
+        for _ in range(20):
+            if button.has("FOCUSED"):
+                break
+            self.desktop.key("Tab")
+        self.program.wait_focus(button)
+        left, top, width, height = button.rectangle
+        self.assertTrue(0 <= left and left + width <= self.size[0] and 0 <= top and top + height <= self.size[1], name)
+
     def test_controls_keep_their_places_and_the_sheet_its_size(self):
         left, top, width, height = self.sheet.rectangle
         self.assertEqual((width, height), SHEET)
@@ -30,31 +51,25 @@ class SmallScreen(Studio):
 
     def test_what_does_not_fit_is_reached_by_scrolling(self):
         self.program.choose("line")
-        self.scroll(down=20, right=20)
+        self.turn_wheel(down=5, right=7)
         self.stroke((500, 500), (600, 500))
+        self.turn_wheel(up=4, left=6)
         self.assertEqual(self.painted(), dict.fromkeys(span(500, 599, 500), BLACK))
 
     def test_the_tab_key_brings_a_hidden_button_into_sight(self):
         self.program.leave_studio()
-        stop = self.program.control("Stoppen")
-        for _ in range(12):
-            if stop.has("FOCUSED"):
-                break
-            self.desktop.key("Tab")
-        self.program.wait_focus(stop)
-        left, top, width, height = stop.rectangle
-        self.assertLessEqual(top + height, self.size[1])
-        self.assertLessEqual(left + width, self.size[0])
+        self.tab_to("Stoppen")
         self.desktop.key("space")
         self.program.answer(kraspret.QUIT_QUESTION, "Nee")
-        self.program.open_studio()
+        self.tab_to("Tekenen Groot")
+        self.desktop.key("space")
+        self.program.wait_window(kraspret.STUDIO)
 
-    def scroll(self, down, right):
-        """Turns the wheel above the sheet."""
-        for _ in range(down):
-            self.desktop.click(300, 200, button=5)
-        for _ in range(right):
-            self.desktop.click(300, 200, button=7)
+    def turn_wheel(self, **ways):
+        """Turns the wheel in the middle of the window, one of its four ways."""
+        for button in ways.values():
+            for _ in range(20):
+                self.desktop.click(300, 200, button=button)
 
 
 if __name__ == "__main__":

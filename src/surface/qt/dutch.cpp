@@ -26,7 +26,10 @@ constexpr Text Texts[] = {
     {"My Computer", "Deze computer"},
     {"Date Modified", "Gewijzigd op"},
     {"Type", "Soort"},
+    {"Folder", "Map"},
     {"File Folder", "Map"},
+    {"File", "Bestand"},
+    {"%1 File", "%1-bestand"},
     {"Drive", "Schijf"},
     {"Select All", "Alles kiezen"},
 };
