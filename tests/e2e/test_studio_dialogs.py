@@ -64,7 +64,7 @@ class Dialogs(Studio):
                 self.desktop.key("Return")
                 row = self.program.control("mijn tekeningen")
                 row.click()
-                self.desktop.key("Delete", "Return", "F2", "ctrl+a", "x", "Return", "Delete", "Return")
+                self.desktop.key("Delete", "Return")
                 for _ in range(4):
                     self.desktop.key("Escape")
                 self.program.wait_no_dialog()

@@ -24,9 +24,9 @@ class SmallScreen(Studio):
         """Goes from button to button with the Tab key; the one that is reached can be seen."""
         button = self.program.control(name)
         for _ in range(20):
+            self.desktop.key("Tab")
             if button.has("FOCUSED"):
                 break
-            self.desktop.key("Tab")
         self.program.wait_focus(button)
         left, top, width, height = button.rectangle
         self.assertTrue(0 <= left and left + width <= self.size[0] and 0 <= top and top + height <= self.size[1], name)
