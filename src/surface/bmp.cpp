@@ -88,7 +88,10 @@ class Reader {
       readRuns();
     else
       readRows();
-    return Picture(std::move(bitmap_));
+    const bool opaque =
+        std::all_of(coverage_.begin(), coverage_.end(), [](Byte c) { return c == 255; });
+    if (opaque) return Picture(std::move(bitmap_));
+    return Picture(std::move(bitmap_), std::move(coverage_));
   }
 
  private:
@@ -191,16 +194,20 @@ class Reader {
     const long long wanted =
         (static_cast<long long>(bitmap_->width()) * header_.bits + 31) / 32 * 4;
     std::vector<Byte> line(static_cast<std::size_t>(wanted));
+    if (header_.masks.alpha.there())
+      coverage_.resize(static_cast<std::size_t>(bitmap_->width()) * rows);
     seek(header_.start + stride * first);
     for (int i = 0; i < rows; ++i) {
       if (wanted < stride) seek(header_.start + stride * (first + i));
       take(line.data(), line.size());
-      toPixels(line.data(), bitmap_->row(header_.downwards ? i : rows - 1 - i));
+      toPixels(line.data(), header_.downwards ? i : rows - 1 - i);
     }
   }
 
-  void toPixels(const Byte* line, Pixel* row) const {
+  void toPixels(const Byte* line, int y) {
     const int width = bitmap_->width(), bits = header_.bits;
+    Pixel* const row = bitmap_->row(y);
+    Byte* cover = coverage_.empty() ? nullptr : &coverage_[static_cast<std::size_t>(y) * width];
     if (bits <= 8) {
       const int perByte = 8 / bits, mask = (1 << bits) - 1;
       for (int x = 0; x < width; ++x) {
@@ -212,7 +219,11 @@ class Reader {
     } else if (bits == 32 && header_.compression == Plain) {
       for (int x = 0; x < width; ++x, line += 4) row[x] = Opaque | number(line, 3);
     } else {
-      for (int x = 0; x < width; ++x, line += bits / 8) row[x] = masked(number(line, bits / 8));
+      for (int x = 0; x < width; ++x, line += bits / 8) {
+        const std::uint32_t pixel = number(line, bits / 8);
+        row[x] = masked(pixel);
+        if (cover) *cover++ = static_cast<Byte>(header_.masks.alpha.of(pixel));
+      }
     }
   }
 
@@ -279,6 +290,7 @@ class Reader {
   std::FILE* file_;
   Header header_;
   std::shared_ptr<Bitmap> bitmap_;
+  std::vector<std::uint8_t> coverage_;  ///< empty without transparent parts
   // Of the runs: the next pixel, rows from below, and the bytes read.
   long long x_ = 0, y_ = 0, taken_ = 0;
 };

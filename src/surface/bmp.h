@@ -17,8 +17,8 @@ inline constexpr int LargestSideKept = 32767;
 int rowsKept(long long width, long long height, long long mostPixels);
 
 /// Reads a bitmap of any kind that is not a JPEG or PNG in disguise, from the file's start: 1, 4,
-/// 8, 16, 24 or 32 bits a pixel, plain, in runs or with masks of its own. What is transparent is
-/// white. BadFile for anything else and for a file that was cut off.
+/// 8, 16, 24 or 32 bits a pixel, plain, in runs or with masks of its own. BadFile for anything else
+/// and for a file that was cut off.
 Picture readBmp(std::FILE* file);
 
 /// Writes an uncompressed bitmap of 24 bits; false if not every byte was taken. A bitmap without

@@ -9,9 +9,12 @@
 #include <QLocale>
 #include <QRandomGenerator>
 #include <QScreen>
+#include <QSessionManager>
 #include <QStandardPaths>
 #include <QTimer>
 #include <algorithm>
+#include <cstdio>
+#include <cstdlib>
 #include <string>
 
 #include "surface/app.h"
@@ -23,6 +26,7 @@
 #include "surface/qt/dialogs.h"
 #include "surface/qt/form_window.h"
 #include "surface/qt/images.h"
+#include "surface/qt/signals.h"
 #include "surface/qt/surface_widget.h"
 #include "surface/timer.h"
 
@@ -67,12 +71,20 @@ std::string joined(int argc, char** argv) {
   return all;
 }
 
-// The program's pixels are whole: on a screen of 150 % they are shown at 100 %, at 250 % at 200 %.
+// The program's pixels are whole: on a screen of 150 % they are shown at 100 %, at 250 % at 200
+// %.
 void keepPixelsWhole() {
   QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::Floor);
   bool given = false;
   const double factor = qEnvironmentVariable("QT_SCALE_FACTOR").toDouble(&given);
   if (given) qputenv("QT_SCALE_FACTOR", QByteArray::number(std::max(1, static_cast<int>(factor))));
+}
+
+// Until the application stands: the toolkit would tell in English what it has tried, and abort.
+void endWithoutScreen(QtMsgType type, const QMessageLogContext&, const QString&) {
+  if (type != QtFatalMsg) return;
+  std::fputs("KrasPret kan niet starten: er is geen scherm om vensters op te tonen.\n", stderr);
+  std::_Exit(1);
 }
 
 }  // namespace
@@ -111,7 +123,7 @@ void install() {
   seams.leaveEventLoop = [] { QCoreApplication::exit(0); };
 }
 
-int run(int argc, char** argv, const std::function<void()>& start) {
+int run(int argc, char** argv, const Program& program) {
   app().Path = folderOf(argv[0]);
   app().Command = joined(argc, argv);
   // The limit on a picture's memory is the program's own.
@@ -119,9 +131,27 @@ int run(int argc, char** argv, const std::function<void()>& start) {
   keepPixelsWhole();
   // The toolkit gets none of the command line: all of it names a picture.
   int onlyName = 1;
+  const auto usual = qInstallMessageHandler(endWithoutScreen);
   QApplication application(onlyName, argv);
+  qInstallMessageHandler(usual);
   install();
-  QTimer::singleShot(0, [&start] { dispatch(start); });
+  QObject::connect(
+      &application, &QGuiApplication::commitDataRequest, &application,
+      [&program](QSessionManager& session) {
+        if (!session.allowsInteraction()) return;
+        dispatch(program.logOut);
+        session.release();
+      },
+      Qt::DirectConnection);
+  whenAskedToEnd([&program] {
+    dispatch([&program] {
+      program.rescue(picturesFolder());
+      End();
+    });
+    // Also behind the report of an error, which lets no event in.
+    QCoreApplication::exit(0);
+  });
+  QTimer::singleShot(0, [&program] { dispatch(program.start); });
   // Decoding the icon would hold the first window up; a tenth of a second later nobody waits.
   QTimer::singleShot(100, [] { QApplication::setWindowIcon(programIcon()); });
   const int status = QApplication::exec();

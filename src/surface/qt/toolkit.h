@@ -3,15 +3,24 @@
 #pragma once
 
 #include <functional>
+#include <string>
 
 namespace surface::qt {
 
 /// Fills in every seam of the model; needs a running QApplication.
 void install();
 
-/// Runs the program: makes the application, fills in the seams, runs `start` as the first event and
-/// then the event loop. Gives the exit status, 0 when the program ended by itself or by its last
-/// window.
-int run(int argc, char** argv, const std::function<void()>& start);
+/// What the program does, and when.
+struct Program {
+  std::function<void()> start;   ///< the first event
+  std::function<void()> logOut;  ///< the desktop logs out, and waits for an answer
+  /// The system ends the program at once; what is to be kept goes into the user's pictures folder.
+  std::function<void(const std::string& pictures)> rescue;
+};
+
+/// Runs the program: makes the application, fills in the seams, starts the program and then the
+/// event loop. Gives the exit status: 0 when the program ended by itself, by its last window or by
+/// the system, 1 when there is no screen to show it on.
+int run(int argc, char** argv, const Program& program);
 
 }  // namespace surface::qt
