@@ -121,9 +121,6 @@ void CheckWidget::sync(Aspect aspect) {
 
 OptionWidget::OptionWidget(OptionButton& owner, QWidget& parent)
     : QRadioButton(&parent), control(&owner) {
-  // The model keeps its options exclusive itself; the toolkit's own rule would refuse to clear the
-  // last one.
-  setAutoExclusive(false);
   QObject::connect(this, &QRadioButton::clicked, this, [this] {
     if (!control) return;
     setChecked(true);
@@ -137,7 +134,13 @@ void OptionWidget::sync(Aspect aspect) {
     applyColors(*this, control->BackColor, Black);
     setText(QString::fromStdString(control->Caption));
   }
-  if (aspect == Aspect::Value) setChecked(control->Value);
+  if (aspect == Aspect::Value) {
+    // One of a choice to a screen reader and the arrow keys. But the model keeps its options
+    // exclusive itself, and may clear the last one, which the toolkit would refuse.
+    setAutoExclusive(false);
+    setChecked(control->Value);
+    setAutoExclusive(true);
+  }
   applyCommon(*this, *control, aspect, spoken(control->Caption));
 }
 

@@ -3,8 +3,10 @@
 
 #include <QAccessible>
 #include <QAccessibleWidget>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <algorithm>
 
 #include "surface/qt/button.h"
 #include "surface/qt/images.h"
@@ -35,6 +37,10 @@ SurfaceWidget::SurfaceWidget(PictureBox& owner, QWidget& parent)
     : QWidget(&parent), control(&owner) {
   setAttribute(Qt::WA_OpaquePaintEvent);
   setMouseTracking(true);
+  // What is chosen from can be reached by keyboard; what is drawn on is for the pointer.
+  if (!owner.AutoRedraw && (owner.Click.handled() || owner.MouseDown.handled()))
+    setFocusPolicy(Qt::TabFocus);
+  spot_ = toQRect(owner.innerPixels()).center();
   makePeers(owner, *this);
 }
 
@@ -48,6 +54,7 @@ void SurfaceWidget::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
   paintSurface(painter, *control, event->rect());
   if (control->Raised) drawClassicEdge(painter, rect(), control->Pressed);
+  if (hasFocus()) paintFocus(painter);
 }
 
 void SurfaceWidget::mousePressEvent(QMouseEvent* event) {
@@ -69,6 +76,52 @@ void SurfaceWidget::mouseReleaseEvent(QMouseEvent* event) {
   const bool inside = rect().contains(pixelUnder(*event));
   if (control && inside && event->button() == Qt::LeftButton)
     dispatch([this] { control->Click(); });
+}
+
+// A palette: it matters where it is pressed.
+bool SurfaceWidget::choosesPlace() const { return control->MouseDown.handled(); }
+
+// The arrow keys move the spot of the Space key, or else go to the neighbours.
+void SurfaceWidget::keyPressEvent(QKeyEvent* event) {
+  constexpr int Step = 4;
+  const int key = event->key();
+  const QPoint way(key == Qt::Key_Right  ? 1
+                   : key == Qt::Key_Left ? -1
+                                         : 0,
+                   key == Qt::Key_Down ? 1
+                   : key == Qt::Key_Up ? -1
+                                       : 0);
+  if (!control || (way.isNull() && key != Qt::Key_Space)) return QWidget::keyPressEvent(event);
+  if (key == Qt::Key_Space) return press();
+  if (!choosesPlace()) {
+    focusNextPrevChild(way.x() + way.y() > 0);
+    return;
+  }
+  const QPoint next = spot_ + Step * way;
+  spot_ = {std::clamp(next.x(), 0, width() - 1), std::clamp(next.y(), 0, height() - 1)};
+  update();
+}
+
+void SurfaceWidget::press() {
+  const PointF place = control->toScale(spot_.x(), spot_.y());
+  const Mouse left{.Button = 1, .Shift = 0, .X = place.X, .Y = place.Y};
+  dispatch([&] { control->MouseDown(left); });
+  // Each handler may take the surface away.
+  if (control) dispatch([&] { control->MouseUp(left); });
+  if (control) dispatch([this] { control->Click(); });
+}
+
+void SurfaceWidget::paintFocus(QPainter& painter) const {
+  painter.setPen(QPen(Qt::white));
+  painter.drawRect(rect().adjusted(1, 1, -2, -2));
+  painter.setPen(QPen(Qt::black, 1, Qt::DotLine));
+  painter.drawRect(rect().adjusted(1, 1, -2, -2));
+  if (!choosesPlace()) return;
+  const QRect ring(spot_ - QPoint(3, 3), QSize(6, 6));
+  painter.setPen(Qt::black);
+  painter.drawRect(ring);
+  painter.setPen(Qt::white);
+  painter.drawRect(ring.adjusted(-1, -1, 1, 1));
 }
 
 }  // namespace surface::qt

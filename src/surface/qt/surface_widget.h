@@ -21,6 +21,17 @@ class SurfaceWidget : public QWidget {
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  // The mark of the focus comes and goes.
+  void focusInEvent(QFocusEvent*) override { update(); }
+  void focusOutEvent(QFocusEvent*) override { update(); }
+
+ private:
+  bool choosesPlace() const;
+  void press();
+  void paintFocus(QPainter& painter) const;
+
+  QPoint spot_;  ///< where the Space key presses
 };
 
 class SurfaceWidgetPeer : public WidgetPeer<SurfaceWidget, SurfacePeer> {
