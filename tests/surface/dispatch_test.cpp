@@ -209,10 +209,10 @@ TEST_F(Errors, AWindowThatBecomesTooLargeIsReportedLikeAnyError) {
   };
   Wall& wall = the<Wall>();
   wall.Show();
-  QWidget* window = script::widgetOf(wall.lblTekst)->window();
+  QWidget* inside = script::widgetOf(wall.lblTekst)->parentWidget();
   // The resize of a window reaches the model as an event: 40000 pixels are more than it takes.
-  QResizeEvent grown({40000, 100}, window->size());
-  QCoreApplication::sendEvent(window, &grown);
+  QResizeEvent grown({40000, 100}, inside->size());
+  QCoreApplication::sendEvent(inside, &grown);
   EXPECT_EQ(takeErrorReport(), "Out of memory");
   EXPECT_TRUE(ended());
 }
