@@ -28,6 +28,8 @@ void rotateLiterally(const Bitmap& source, Bitmap& target, float angle) {
   };
   for (int u = 0; u <= N; ++u)
     for (int v = 0; v <= N; ++v) {
+      // None of the four would be written inside a narrow target.
+      if ((u > tx + 1 || v > ty + 1) && (v > tx + 1 || u > ty + 1)) continue;
       const auto a =
           static_cast<float>(u == 0 ? 3.14159265359 / 2 : std::atan(static_cast<double>(v) / u));
       const int r = whole(std::sqrt(double(u) * u + double(v) * v));
