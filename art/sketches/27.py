@@ -11,6 +11,8 @@ p.shape("-10 400!, 640 372!, 640 560!, -10 560!")
 p.note("bus from the side")
 bus = "150 360!, 140 110, 164 66, 640 48!, 640 370!"
 p.shape(bus)
+with p.within(bus):
+    p.line("120 294, 640 284", 4)
 
 p.note("six windows, a face in each")
 faces = (("34", "bob", "smile", "dot"), ("side", "curly", "open", "dot"), ("34", "tuft", "open", "happy"))

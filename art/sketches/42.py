@@ -31,8 +31,8 @@ with p.at(112, 286, .74):
 
 p.note("keeper stretched out in the air, head between the arms")
 with p.at(384, 222, 1, 22):
-    p.one(limb("92 0, 150 26, 186 62", 50, 40, 30, flat=True))
-    with p.at(192, 72, 1, 34):
+    p.one(limb("92 0, 146 -26, 190 -48", 50, 40, 30, flat=True))
+    with p.at(198, -54, 1, -32):
         shoe(p, 0, 0, 0, 1.2)
     p.one(arm("-76 -20, -126 -44, -168 -48", 40, 32, 28, thumb=1))
     p.one("-96 -34, -40 -40, 30 -32, 70 -24!, 78 40!, 30 44, -40 42, -92 32")
