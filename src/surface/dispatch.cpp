@@ -26,7 +26,7 @@ void finishProgram() {
 void failProgram(const std::string& text) {
   // From here on no other handler runs, although the report lets the toolkit's events in.
   hasEnded = true;
-  if (host().errorReport) host().errorReport(text);
+  if (host().errorReport) host().errorReport(text, true);
   finishProgram();
 }
 
@@ -84,6 +84,17 @@ void dispatch(const std::function<void()>& handler) {
     handler();
     showPending();
   });
+}
+
+bool trapAndReport(const std::function<void()>& body) {
+  try {
+    body();
+    return true;
+  } catch (const RuntimeError& error) {
+    showPending();
+    if (host().errorReport) host().errorReport(error.what(), false);
+    return false;
+  }
 }
 
 void End() {

@@ -39,6 +39,10 @@ void showPending();
 /// more.
 void dispatch(const std::function<void()>& handler);
 
+/// Runs `body`; its first error is shown in the platform's error report, and the program goes on
+/// behind it. Gives true when it ran to its end.
+bool trapAndReport(const std::function<void()>& body);
+
 /// Ends the program at once: nothing behind it in the handler runs, and no further event arrives.
 [[noreturn]] void End();
 /// True once the program has ended; the event loop is left as soon as it gets the turn.

@@ -56,7 +56,8 @@ struct Host {
   std::function<std::int64_t()> clock;   ///< milliseconds, never backwards
   std::function<std::uint64_t()> seed;   ///< something that differs from call to call
   std::function<void()> timersChanged;   ///< the time of the next tick may have changed
-  std::function<void(const std::string& text)> errorReport;
+  /// An error that no handler trapped; `ends` tells whether the program stops with it.
+  std::function<void(const std::string& text, bool ends)> errorReport;
   std::function<void()> leaveEventLoop;
 };
 

@@ -88,7 +88,7 @@ void Stage::installSeams() {
   seams.timersChanged = nullptr;
   seams.leaveEventLoop = nullptr;
   seams.seed = [] { return std::uint64_t{42}; };
-  seams.errorReport = [this](const std::string& text) { errorReport_ = text; };
+  seams.errorReport = [this](const std::string& text, bool) { errorReport_ = text; };
   seams.setClipboard = [this](const Picture& picture) { clipboard = picture; };
   seams.getClipboard = [this] { return clipboard; };
   seams.msgBox = [this](const std::string& text, int buttons, const std::string& title) {

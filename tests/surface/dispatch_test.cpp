@@ -140,10 +140,32 @@ TEST_F(Errors, AfterTheEndNoHandlerRuns) {
 // The report waits for the child's OK, and meanwhile the toolkit's loop turns.
 TEST_F(Errors, NoHandlerRunsBehindTheOpenErrorReport) {
   bool ran = false;
-  host().errorReport = [&](const std::string&) { dispatch([&] { ran = true; }); };
+  host().errorReport = [&](const std::string&, bool) { dispatch([&] { ran = true; }); };
   dispatch([] { fail(); });
   EXPECT_FALSE(ran);
   EXPECT_TRUE(ended());
+}
+
+TEST_F(Errors, AReportedErrorLeavesItsStepsAndTheProgramLives) {
+  std::string told;
+  bool stops = true, behind = false, after = false;
+  host().errorReport = [&](const std::string& text, bool ends) {
+    told = text;
+    stops = ends;
+  };
+  dispatch([&] {
+    EXPECT_FALSE(trapAndReport([&] {
+      fail();
+      behind = true;
+    }));
+    after = true;
+  });
+  EXPECT_EQ(told, "Something happened");
+  EXPECT_FALSE(stops);
+  EXPECT_FALSE(behind);
+  EXPECT_TRUE(after);
+  EXPECT_FALSE(ended());
+  EXPECT_TRUE(trapAndReport([] {}));
 }
 
 TEST_F(Errors, EndLeavesAtOnceAndSilently) {

@@ -213,7 +213,7 @@ TEST_F(RealDialogs, AnUntrappedErrorIsShownWithItsText) {
     EXPECT_TRUE(box.text().contains("Division by zero"));
     choose(box, "OK");
   });
-  host().errorReport("Division by zero");
+  host().errorReport("Division by zero", true);
 }
 
 TEST_F(RealDialogs, AClipboardWithABrokenPictureIsAnErrorAndOneWithoutIsEmpty) {

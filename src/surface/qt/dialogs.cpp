@@ -226,16 +226,16 @@ std::optional<Color> colorDialog(Color initial, int flags) {
   return toColor(dialog.currentColor().rgb());
 }
 
-void errorReport(const std::string& text) {
+void errorReport(const std::string& text, bool ends) {
   QMessageBox box(owner());
   box.setWindowFlags(DialogFlags);
   keepAbove(box);
   box.setWindowTitle("KRAS PRET");
   box.setIcon(QMessageBox::Critical);
   box.setTextFormat(Qt::PlainText);
-  box.setText(
-      fitting("Er is een fout opgetreden, het programma stopt:\n\n" + QString::fromStdString(text),
-              box.fontMetrics()));
+  const QString what = ends ? "Er is een fout opgetreden, het programma stopt:"
+                            : "Er is een fout opgetreden, maar je kunt gewoon verder:";
+  box.setText(fitting(what + "\n\n" + QString::fromStdString(text), box.fontMetrics()));
   box.addButton("OK", QMessageBox::AcceptRole);
   box.exec();
 }

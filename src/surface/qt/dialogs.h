@@ -16,7 +16,7 @@ std::optional<std::string> inputBox(const std::string& prompt, const std::string
                                     const std::string& initial);
 std::optional<std::string> fileDialog(const FileRequest& request);
 std::optional<Color> colorDialog(Color initial, int flags);
-void errorReport(const std::string& text);
+void errorReport(const std::string& text, bool ends);
 
 void setClipboard(const Picture& picture);
 Picture getClipboard();
