@@ -1,7 +1,12 @@
 // The main menu.
 #include "shell/frmStart.h"
 
+#include "course/frmCursus.h"
+#include "info/frmGebruik.h"
+#include "info/frmInfo.h"
 #include "shell/frmEinde.h"
+#include "small/frmKleurplaat.h"
+#include "small/frmTekenen1.h"
 #include "studio/frmTekenen2.h"
 
 using namespace surface;
@@ -9,7 +14,12 @@ using namespace surface;
 frmStart::frmStart() : Form({.Caption = "KRAS PRET", .BackColor = 0xC0FFC0, .Maximised = true}) {
   txtNaam.AccessibleName = "Vul even je naam in.";
   Image9.AccessibleName = "welkomstprent";
+  cmdTekenen1.Click = [this] { openNew<frmTekenen1>(); };
+  cmdKleurplaten.Click = [this] { openNew<frmKleurplaat>(); };
+  Command1.Click = [this] { openNew<frmCursus>(); };
   cmdTekenen2.Click = [this] { cmdTekenen2_Click(); };
+  cmdOlmwerk.Click = [this] { openNew<frmGebruik>(); };
+  cmdInfo.Click = [this] { cmdInfo_Click(); };
   cmdEinde.Click = [this] { cmdEinde_Click(); };
   CloseBox = [] { End(); };
 }
@@ -32,6 +42,19 @@ CommandButton::Design frmStart::note(float left, const char* caption) {
           .Caption = caption,
           .BackColor = 0xFFC0C0,
           .Font = {"Arial", 9.75f, true}};
+}
+
+template <class Screen>
+void frmStart::openNew() {
+  showNew<Screen>();
+  Hide();
+}
+
+void frmStart::cmdInfo_Click() {
+  auto& info = the<frmInfo>();
+  info.Show();
+  info.txtInfo.Text = "1";
+  Hide();
 }
 
 void frmStart::cmdTekenen2_Click() {

@@ -67,6 +67,9 @@ class frmStart : public surface::Form {
  private:
   static CommandButton::Design choice(float top, const char* caption, Color color);
   static CommandButton::Design note(float left, const char* caption);
+  template <class Screen>
+  void openNew();
+  void cmdInfo_Click();
   void cmdTekenen2_Click();
   void cmdEinde_Click();
 };

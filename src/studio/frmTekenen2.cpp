@@ -3,6 +3,7 @@
 
 #include <array>
 
+#include "info/frmHelp2.h"
 #include "shell/frmStart.h"
 #include "studio/frmLineaalH.h"
 #include "studio/frmLineaalV.h"
@@ -133,6 +134,7 @@ void frmTekenen2::wireRest() {
   cmdPlakken.Click = [this] { cmdPlakken_Click(); };
   cmdSaveAs.Click = [this] { cmdSaveAs_Click(); };
   cmdOpenbestand.Click = [this] { cmdOpenbestand_Click(); };
+  Command1.Click = [this] { Command1_Click(); };
   cmdEinde.Click = [this] { cmdEinde_Click(); };
 }
 
@@ -217,6 +219,11 @@ void frmTekenen2::Form_MouseUp(const Mouse& at) {
   Line({Teller, BeginBlauw}, {at.X, at.Y}, ForeColor, flag);
   Teller = 0;
   BeginBlauw = 0;
+}
+
+void frmTekenen2::Command1_Click() {
+  showNew<frmHelp2>();
+  Hide();
 }
 
 void frmTekenen2::cmdEinde_Click() {

@@ -19,6 +19,7 @@ class frmTekenen2 : public frmTekenen2_controls {
   void FirstTool();
   void ApplyTool();
   void SetProgressMax();
+  void Command1_Click();
   void cmdEinde_Click();
   void Slider2_Scroll();
 
