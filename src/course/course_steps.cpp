@@ -84,7 +84,11 @@ void frmTekenen3::TakeStep(int step) {
   const auto all = buttons();
   const auto own = static_cast<std::size_t>(step - 1);
   toon(*all[own], false);
-  if (step < Steps) toon(*all[own + 1], true);
+  if (step < Steps) {
+    toon(*all[own + 1], true);
+    // Otherwise the keys would now press "Sluiten".
+    all[own + 1]->SetFocus();
+  }
   lblCursus.Caption = Texts[own];
 }
 

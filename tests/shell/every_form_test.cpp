@@ -5,9 +5,21 @@
 #include <set>
 #include <sstream>
 
+#include "course/frmCursus.h"
+#include "course/frmTekenen3.h"
+#include "info/frmGebruik.h"
+#include "info/frmHelp1.h"
+#include "info/frmHelp2.h"
+#include "info/frmInfo.h"
+#include "info/frmSysInfo.h"
 #include "shell/frmEinde.h"
 #include "shell/frmIntro.h"
 #include "shell/frmStart.h"
+#include "small/frmKleurplaat.h"
+#include "small/frmKleurplaat2.h"
+#include "small/frmKleurplaat3.h"
+#include "small/frmKleurplaat4.h"
+#include "small/frmTekenen1.h"
 #include "studio/frmLineaalH.h"
 #include "studio/frmLineaalV.h"
 #include "studio/frmTekenen2.h"
@@ -36,10 +48,24 @@ Form& openedDefault() {
   return the<F>();
 }
 
-const Opening Screens[] = {
-    {"frmEinde", opened<frmEinde>},        {"frmIntro", opened<frmIntro>},
-    {"frmLineaalH", opened<frmLineaalH>},  {"frmLineaalV", opened<frmLineaalV>},
-    {"frmStart", openedDefault<frmStart>}, {"frmTekenen2", openedDefault<frmTekenen2>}};
+const Opening Screens[] = {{"frmCursus", opened<frmCursus>},
+                           {"frmGebruik", opened<frmGebruik>},
+                           {"frmHelp1", opened<frmHelp1>},
+                           {"frmHelp2", opened<frmHelp2>},
+                           {"frmInfo", openedDefault<frmInfo>},
+                           {"frmKleurplaat", opened<frmKleurplaat>},
+                           {"frmKleurplaat2", opened<frmKleurplaat2>},
+                           {"frmKleurplaat3", opened<frmKleurplaat3>},
+                           {"frmKleurplaat4", opened<frmKleurplaat4>},
+                           {"frmSysInfo", opened<frmSysInfo>},
+                           {"frmTekenen1", opened<frmTekenen1>},
+                           {"frmTekenen3", opened<frmTekenen3>},
+                           {"frmEinde", opened<frmEinde>},
+                           {"frmIntro", opened<frmIntro>},
+                           {"frmLineaalH", opened<frmLineaalH>},
+                           {"frmLineaalV", opened<frmLineaalV>},
+                           {"frmStart", openedDefault<frmStart>},
+                           {"frmTekenen2", openedDefault<frmTekenen2>}};
 
 bool isLoadedStill(const Form& form) {
   for (const auto& loaded : FormRegistry::instance().forms())
@@ -70,6 +96,8 @@ bool fire(Control& control) {
 
 class EveryForm : public script::Stage, public testing::WithParamInterface<Opening> {
  protected:
+  EveryForm() { app().Path = KRASPRET_TREE; }
+
   // No to every question, a cancel for every dialog.
   void declineEverything() {
     Host& seams = host();

@@ -4,7 +4,7 @@
 
 #include "files/picture_files.h"
 #include "info/frmHelp1.h"
-#include "small/small_studio.h"
+#include "small/stage.h"
 
 using namespace surface;
 
@@ -13,9 +13,9 @@ class SmallFiles : public SmallStudioStage {
   std::string path(const std::string& name) { return folder() + "/" + name; }
   /// A red picture as a file.
   std::string redFile(int width, int height) {
-    picture_files::write(path("rood.bmp"),
-                         picture_files::trueColorBmp(width, height, 24,
-                                                     [](int, int) { return 0xFF0000u; }));
+    picture_files::write(
+        path("rood.bmp"),
+        picture_files::trueColorBmp(width, height, 24, [](int, int) { return 0xFF0000u; }));
     return path("rood.bmp");
   }
   static constexpr Color Red = 0x0000FF;

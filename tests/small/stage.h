@@ -3,11 +3,20 @@
 
 #include <QImage>
 #include <QSlider>
+#include <set>
 #include <string>
 
 #include "shell/frmStart.h"
 #include "small/frmTekenen1.h"
 #include "support/script.h"
+
+inline bool samePicture(const raster::Bitmap& is, const raster::Bitmap& should) {
+  if (is.width() != should.width() || is.height() != should.height()) return false;
+  for (int y = 0; y < is.height(); ++y)
+    for (int x = 0; x < is.width(); ++x)
+      if (is.at(x, y) != should.at(x, y)) return false;
+  return true;
+}
 
 class SmallStudioStage : public script::Stage {
  protected:
