@@ -76,25 +76,25 @@ const std::array<const char*, frmTekenen3::Steps> Texts = {
 
 // Each step wipes the sheet and takes the pen's colour away, so that the child has to choose the
 // tool which the text names.
-void frmTekenen3::TakeStep(int step) {
+void frmTekenen3::takeStep(int step) {
   if (step == 9) lblModus.Caption = "";
   if (step > 1) cmdClear_Click();
   if (step >= 2 && step <= 9) picBlad.ForeColor = White;
-  ShowForStep(step);
+  showForStep(step);
   const auto all = buttons();
   const auto own = static_cast<std::size_t>(step - 1);
-  toon(*all[own], false);
+  showControl(*all[own], false);
   if (step < Steps) {
-    toon(*all[own + 1], true);
+    showControl(*all[own + 1], true);
     // Otherwise the keys would now press "Sluiten".
     all[own + 1]->SetFocus();
   }
   lblCursus.Caption = Texts[own];
 }
 
-void frmTekenen3::ShowForStep(int step) {
-  const auto show = [](auto&... controls) { (toon(controls, true), ...); };
-  const auto hide = [](auto&... controls) { (toon(controls, false), ...); };
+void frmTekenen3::showForStep(int step) {
+  const auto show = [](auto&... controls) { (showControl(controls, true), ...); };
+  const auto hide = [](auto&... controls) { (showControl(controls, false), ...); };
   switch (step) {
     case 1:
       show(cmdTekenen);
@@ -137,13 +137,13 @@ void frmTekenen3::ShowForStep(int step) {
       break;
     case 10:
       txt3.Text = "1";
-      toon(imgPijl, true);
+      showControl(imgPijl, true);
       show(picPalet, Shape1);
       hide(cmdEllips, cmdLijn, cmdUndo, cmdGom, cmdClear, lblModus);
       break;
     case 11:
       txt3.Text = "1";
-      toon(imgPijl, false);
+      showControl(imgPijl, false);
       show(cmdOpvullen);
       hide(cmdTekenen);
       break;
@@ -168,8 +168,8 @@ void frmTekenen3::ShowForStep(int step) {
       hide(cmdPrint, cmdOpenbestand);
       break;
     case 17:
-      toon(picBlad, false);
-      toon(imgMuis, true);
+      showControl(picBlad, false);
+      showControl(imgMuis, true);
       cmdSluiten.Left = 3720;
       cmdSluiten.Top = 5160;
       hide(cmdKleurplaat);

@@ -28,7 +28,7 @@ const SmallStudioLayout Layout = {
 
 }  // namespace
 
-void toon(Control& control, bool shown) {
+void showControl(Control& control, bool shown) {
   control.Visible = shown;
   control.Enabled = shown;
 }
@@ -36,11 +36,11 @@ void toon(Control& control, bool shown) {
 frmTekenen3::frmTekenen3() : SmallStudio(Layout) {
   lblModus.Font = surface::Font{"Arial", 12, true};
   cmdTekenen.Click = [this] { cmdTekenen_Click(); };
-  cmdGom.Click = [this] { GomMetDikte(); };
+  cmdGom.Click = [this] { eraseThickly(); };
   cmdSluiten.Click = [this] { cmdSluiten_Click(); };
   CloseBox = [this] { cmdSluiten_Click(); };
   int step = 0;
-  for (CommandButton* button : buttons()) button->Click = [this, s = ++step] { TakeStep(s); };
+  for (CommandButton* button : buttons()) button->Click = [this, s = ++step] { takeStep(s); };
 }
 
 CommandButton::Design frmTekenen3::further(Color color, bool visible) {
@@ -67,22 +67,22 @@ void frmTekenen3::Form_Load() {
   SmallStudio::Form_Load();
 }
 
-void frmTekenen3::ApplyTool() {
+void frmTekenen3::applyTool() {
   picBlad.ForeColor = Black;
   Slider1.Value = 1;
   Line2.BorderWidth = 1;
   lblModus.Caption = "";
-  SmallStudio::ApplyTool();
+  SmallStudio::applyTool();
   switch (Gereedschap) {
     case 1:
       if (txt1.Text == "1") picBlad.DrawWidth = 1;
-      TakeColour();
+      takeColour();
       break;
     case 2:
       if (txt2.Text == "1") cmdUndo.Enabled = true;
       break;
     case 3:
-      TakeColour();
+      takeColour();
       break;
     default:
       break;
@@ -90,20 +90,20 @@ void frmTekenen3::ApplyTool() {
 }
 
 // In the lessons on colour the line is thick, so that its colour shows.
-void frmTekenen3::TakeColour() {
+void frmTekenen3::takeColour() {
   if (txt3.Text == "1") {
     picBlad.DrawWidth = 5;
     picBlad.ForeColor = Shape1.FillColor;
   }
-  toon(imgPijl, false);
+  showControl(imgPijl, false);
 }
 
 void frmTekenen3::cmdTekenen_Click() {
   txt1.Text = "1";
-  ChooseTool(1);
+  chooseTool(1);
 }
 
-void frmTekenen3::GomMetDikte() {
+void frmTekenen3::eraseThickly() {
   cmdGom_Click();
   if (txt1.Text == "1") picBlad.DrawWidth = 5;
 }

@@ -69,20 +69,20 @@ class frmTekenen3 : public SmallStudio {
   void Form_Load() override;
 
  protected:
-  void ApplyTool() override;
+  void applyTool() override;
 
  private:
   static CommandButton::Design further(Color color, bool visible = false);
 
   // course_steps.cpp: one for each "Verder"
-  void TakeStep(int step);
-  void ShowForStep(int step);
+  void takeStep(int step);
+  void showForStep(int step);
 
-  void TakeColour();
+  void takeColour();
   void cmdTekenen_Click();
-  void GomMetDikte();
+  void eraseThickly();
   void cmdSluiten_Click();
 };
 
 /// Shows or hides a control, and switches it on or off with that.
-void toon(surface::Control& control, bool shown);
+void showControl(surface::Control& control, bool shown);

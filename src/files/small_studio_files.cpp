@@ -10,12 +10,16 @@ void SmallStudio::cmdSaveAs_Click() {
   bewaarTekening(CommonDialog2, picBlad);
 }
 
+// Before another picture takes the drawing's place, and when the desktop logs out.
+void SmallStudio::askToSave() {
+  if (MsgBox("Wil je de huidige tekening opslaan ?", YesNo, "Opslaan") == Yes) cmdSaveAs_Click();
+}
+
 void SmallStudio::cmdOpenbestand_Click() {
   cmdUndo.Enabled = true;
   lblModus.Caption = "een andere TEKENING OPENEN";
   picBlad.DrawStyle = 5;
-  if (layout.AsksToSave && MsgBox("Wil je de huidige tekening opslaan ?", YesNo, "Opslaan") == Yes)
-    cmdSaveAs_Click();
+  if (layout.AsksToSave) askToSave();
   trapAndLeave([&] {
     picBlad.Picture = LoadPicture(kiesBestand(CommonDialog2));
     lblModus.Caption = "je kunt opnieuw TEKENEN";

@@ -36,8 +36,8 @@ frmTekenen1::frmTekenen1() : SmallStudio(Layout) {
 }
 
 // The pencil forgets the colour and shows the thinnest line, but the pen keeps its thickness.
-void frmTekenen1::ApplyTool() {
-  SmallStudio::ApplyTool();
+void frmTekenen1::applyTool() {
+  SmallStudio::applyTool();
   if (Gereedschap != 1) return;
   Shape1.FillColor = Black;
   picBlad.ForeColor = Black;
@@ -55,11 +55,11 @@ void frmTekenen1::cmdKleurplaat_Click() {
   if (MsgBox("Wil je de huidige tekening opslaan ?", YesNo, "Opslaan") == Yes)
     cmdSaveAs_Click();
   else
-    ToonKleurplaten();
+    showPages();
   lblModus.Caption = "je kunt nu KLEUREN maar OOK TEKENEN";
 }
 
-void frmTekenen1::ToonKleurplaten() {
+void frmTekenen1::showPages() {
   if (txtKleurplaat.Text == "1") showNew<frmKleurplaat>();
   if (txtKleurplaat.Text == "2") showNew<frmKleurplaat2>();
   if (txtKleurplaat.Text == "3") showNew<frmKleurplaat3>();

@@ -15,7 +15,8 @@ class frmTekenen1 : public SmallStudio {
                          .Caption = "Help",
                          .ToolTipText = "uitleg bij alle knoppen",
                          .BackColor = 0xC0E0FF,
-                         .Font = {"Arial", 12, true}}};
+                         .Font = {"Arial", 12, true},
+                         .Shortcut = "F1"}};
   CommandButton cmdEinde{*this,
                          {.Left = 1440,
                           .Top = 4560,
@@ -29,11 +30,11 @@ class frmTekenen1 : public SmallStudio {
   TextBox txtKleurplaat{*this, {.Width = 375, .Height = 375, .Visible = false}};
 
  protected:
-  void ApplyTool() override;
+  void applyTool() override;
 
  private:
   void cmdKleurplaat_Click();
   void cmdHelp_Click();
   void cmdEinde_Click();
-  void ToonKleurplaten();
+  void showPages();
 };

@@ -15,8 +15,8 @@ void SmallStudio::picBlad_MouseDown(const Mouse& at) {
     PenY = at.Y;
     picBlad.Line({at.X, at.Y}, {at.X, at.Y}, picBlad.ForeColor);
   }
-  if (Gereedschap == 6) Opvullen(at);
-  if (Gereedschap == 12 && at.Button == 1) OvaalBegin(at);
+  if (Gereedschap == 6) fill(at);
+  if (Gereedschap == 12 && at.Button == 1) beginOval(at);
   if (Gereedschap == 2 || Gereedschap == 3 || Gereedschap == 12) {
     BeginX = at.X;
     BeginY = toInt16(at.Y);
@@ -28,8 +28,8 @@ void SmallStudio::picBlad_MouseDown(const Mouse& at) {
 }
 
 void SmallStudio::picBlad_MouseMove(const Mouse& at) {
-  if (at.Button == 1 && Gereedschap == 9) Spuiten(at);
-  if (at.Button == 1 && Gereedschap == 1) PotloodVolg(at);
+  if (at.Button == 1 && Gereedschap == 9) spray(at);
+  if (at.Button == 1 && Gereedschap == 1) followPencil(at);
   // The first drag leaves its sample standing above the sheet; it follows nothing.
   if (LijnBezig == 1) {
     Line1.Visible = true;
@@ -41,29 +41,29 @@ void SmallStudio::picBlad_MouseMove(const Mouse& at) {
     Shape2.BorderWidth = Slider1.Value;
     Shape2.BorderColor = picBlad.ForeColor;
   }
-  if (Gereedschap == 12) OvaalVolg(at);
+  if (Gereedschap == 12) followOval(at);
 }
 
 void SmallStudio::picBlad_MouseUp(const Mouse& at) {
   if (Gereedschap == 2) {
     LijnBezig = 0;
-    TrekVorm(at, BoxFlag::None);
+    endShape(at, BoxFlag::None);
   }
   if (Gereedschap == 3) {
     RechthoekBezig = 0;
-    TrekVorm(at, BoxFlag::B);
+    endShape(at, BoxFlag::B);
   }
-  if (Gereedschap == 12) OvaalEinde();
+  if (Gereedschap == 12) endOval();
 }
 
-void SmallStudio::TrekVorm(const Mouse& at, BoxFlag flag) {
+void SmallStudio::endShape(const Mouse& at, BoxFlag flag) {
   if (BeginX != 0 && BeginY != 0)
     picBlad.Line({BeginX, static_cast<float>(BeginY)}, {at.X, at.Y}, picBlad.ForeColor, flag);
   BeginX = 0;
   BeginY = 0;
 }
 
-void SmallStudio::Opvullen(const Mouse& at) {
+void SmallStudio::fill(const Mouse& at) {
   picBlad.FillColor = picBlad.ForeColor;
   picBlad.FillStyle = 0;
   const Color c = picBlad.Point({at.X, at.Y});
@@ -71,7 +71,7 @@ void SmallStudio::Opvullen(const Mouse& at) {
   picBlad.FillStyle = 1;
 }
 
-void SmallStudio::Spuiten(const Mouse& at) {
+void SmallStudio::spray(const Mouse& at) {
   const auto scatter = [] { return static_cast<float>(Int(Rnd() * 14 - 7)); };
   for (int i = 0; i <= 25; ++i) {
     const float dx = scatter();
@@ -80,7 +80,7 @@ void SmallStudio::Spuiten(const Mouse& at) {
   }
 }
 
-void SmallStudio::PotloodVolg(const Mouse& at) {
+void SmallStudio::followPencil(const Mouse& at) {
   VorigePenX = PenX;
   VorigePenY = PenY;
   PenX = at.X;
@@ -89,7 +89,7 @@ void SmallStudio::PotloodVolg(const Mouse& at) {
                {static_cast<float>(VorigePenX), static_cast<float>(VorigePenY)}, picBlad.ForeColor);
 }
 
-void SmallStudio::OvaalBegin(const Mouse& at) {
+void SmallStudio::beginOval(const Mouse& at) {
   OvaalX = at.X;
   OvaalY = at.Y;
   ShpOval.Width = 15;
@@ -100,7 +100,7 @@ void SmallStudio::OvaalBegin(const Mouse& at) {
 }
 
 // The rubber band grows round the point of the press, also without a button held.
-void SmallStudio::OvaalVolg(const Mouse& at) {
+void SmallStudio::followOval(const Mouse& at) {
   OvaalDX = std::abs(at.X - OvaalX);
   OvaalDY = std::abs(at.Y - OvaalY);
   ShpOval.Left = OvaalX - OvaalDX;
@@ -109,7 +109,7 @@ void SmallStudio::OvaalVolg(const Mouse& at) {
   ShpOval.Height = 2 * OvaalDY + 15;
 }
 
-void SmallStudio::OvaalEinde() {
+void SmallStudio::endOval() {
   const float w = ShpOval.Width, h = ShpOval.Height;
   resumeNext([&] { OvaalStraal = toInt16(std::max(w, h) / 2 - 0.5); },
              [&] {

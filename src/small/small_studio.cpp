@@ -10,6 +10,7 @@ namespace {
 // What choosing a tool sets.
 struct ToolRow {
   std::int16_t number;
+  CommandButton SmallStudio::*button;
   int pointer;
   ImageControl SmallStudio::*icon;
   bool undo;
@@ -17,13 +18,17 @@ struct ToolRow {
 };
 
 const std::array<ToolRow, 6> ToolTable = {{
-    {1, PointerCustom, &SmallStudio::curPen, true, "WILLEKEURIGE LIJNEN tekenen"},
-    {2, PointerCustom, &SmallStudio::curPen, true, "RECHTE LIJNEN tekenen"},
-    {3, PointerCross, nullptr, true, "een VIERKANT of RECHTHOEK tekenen"},
+    {1, &SmallStudio::cmdTekenen, PointerCustom, &SmallStudio::curPen, true,
+     "WILLEKEURIGE LIJNEN tekenen"},
+    {2, &SmallStudio::cmdLijn, PointerCustom, &SmallStudio::curPen, true, "RECHTE LIJNEN tekenen"},
+    {3, &SmallStudio::cmdRechthoek, PointerCross, nullptr, true,
+     "een VIERKANT of RECHTHOEK tekenen"},
     // Its paint is in the snapshot already, so there would be nothing to undo.
-    {6, PointerCustom, &SmallStudio::curVullen, false, "VLAKKEN OPVULLEN met kleuren"},
-    {9, PointerCustom, &SmallStudio::curBrush, true, "het SPUITBUSJE gebruiken"},
-    {12, PointerCross, nullptr, true, "een CIRKEL of ELLIPS tekenen"},
+    {6, &SmallStudio::cmdOpvullen, PointerCustom, &SmallStudio::curVullen, false,
+     "VLAKKEN OPVULLEN met kleuren"},
+    {9, &SmallStudio::cmdSpuitbus, PointerCustom, &SmallStudio::curBrush, true,
+     "het SPUITBUSJE gebruiken"},
+    {12, &SmallStudio::cmdEllips, PointerCross, nullptr, true, "een CIRKEL of ELLIPS tekenen"},
 }};
 
 }  // namespace
@@ -32,13 +37,16 @@ SmallStudioControls::SmallStudioControls(const SmallStudioLayout& design)
     : Form({.Caption = design.Caption, .BackColor = design.BackColor, .Maximised = true}),
       layout(design) {
   picBlad.AccessibleName = "tekenblad";
+  FirstStop = &cmdTekenen;
+  Sheet = &picBlad;
   // Only with a colouring page on the sheet.
   cmdKleurplaat.Visible = false;
   cmdKleurplaat.Enabled = false;
 }
 
 CommandButton::Design SmallStudioControls::tool(int row, int column, Color back,
-                                                const char* picture, const char* tip) const {
+                                                const char* picture, const char* tip,
+                                                const char* key) const {
   constexpr float Pitch = 840;
   return {.Left = layout.GridLeft + Pitch * static_cast<float>(column),
           .Top = 120 + Pitch * static_cast<float>(row),
@@ -47,6 +55,7 @@ CommandButton::Design SmallStudioControls::tool(int row, int column, Color back,
           .Picture = picture,
           .ToolTipText = tip,
           .BackColor = back,
+          .Shortcut = key,
           .Visible = layout.Visible};
 }
 
@@ -68,12 +77,13 @@ ImageControl::Design SmallStudioControls::cursor(const char* name) {
 
 SmallStudio::SmallStudio(const SmallStudioLayout& design) : SmallStudioControls(design) {
   Load = [this] { Form_Load(); };
-  cmdTekenen.Click = [this] { ChooseTool(1); };
-  cmdLijn.Click = [this] { ChooseTool(2); };
-  cmdRechthoek.Click = [this] { ChooseTool(3); };
-  cmdOpvullen.Click = [this] { ChooseTool(6); };
-  cmdSpuitbus.Click = [this] { ChooseTool(9); };
-  cmdEllips.Click = [this] { ChooseTool(12); };
+  LogOut = [this] { askToSave(); };
+  cmdTekenen.Click = [this] { chooseTool(1); };
+  cmdLijn.Click = [this] { chooseTool(2); };
+  cmdRechthoek.Click = [this] { chooseTool(3); };
+  cmdOpvullen.Click = [this] { chooseTool(6); };
+  cmdSpuitbus.Click = [this] { chooseTool(9); };
+  cmdEllips.Click = [this] { chooseTool(12); };
   cmdGom.Click = [this] { cmdGom_Click(); };
   cmdUndo.Click = [this] { cmdUndo_Click(); };
   cmdClear.Click = [this] { cmdClear_Click(); };
@@ -99,29 +109,37 @@ void SmallStudio::Form_Load() {
   Line2.BorderColor = Black;
   picBlad.ForeColor = layout.PenAtStart;
   Gereedschap = 1;
+  showInHand(cmdTekenen);
   lblModus.Caption = "KRAS PRET !!!";
   picUndo.Picture = picBlad.Image();
   LoadCommandLine();
 }
 
-void SmallStudio::ChooseTool(std::int16_t tool) {
+void SmallStudio::chooseTool(std::int16_t tool) {
   Gereedschap = tool;
-  ApplyTool();
+  applyTool();
 }
 
-void SmallStudio::ApplyTool() {
+void SmallStudio::applyTool() {
   for (const ToolRow& row : ToolTable) {
     if (row.number != Gereedschap) continue;
     picBlad.MousePointer = row.pointer;
     if (row.icon) picBlad.MouseIcon = (this->*row.icon).PictureName;
     lblModus.Caption = row.message;
     cmdUndo.Enabled = row.undo;
+    showInHand(this->*row.button);
   }
   if (Gereedschap == 9) {
     Slider1.Value = 1;
     Line2.BorderWidth = Slider1.Value;
     picBlad.DrawWidth = Slider1.Value;
   }
+}
+
+void SmallStudio::showInHand(CommandButton& chosen) {
+  if (inHand) inHand->Pressed = false;
+  inHand = &chosen;
+  chosen.Pressed = true;
 }
 
 void SmallStudio::Slider1_Scroll() {
@@ -154,6 +172,7 @@ void SmallStudio::picPalet_MouseUp(const Mouse& at) {
 void SmallStudio::cmdGom_Click() {
   lblModus.Caption = "FOUTJES WEG GOMMEN";
   Gereedschap = 1;
+  showInHand(cmdGom);
   picBlad.MousePointer = PointerCustom;
   picBlad.MouseIcon = curGom.PictureName;
   cmdUndo.Enabled = true;

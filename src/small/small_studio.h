@@ -11,7 +11,7 @@ class SmallStudio : public SmallStudioControls {
  public:
   // small_studio.cpp: the start, the tools, colours, undo, wiping
   virtual void Form_Load();
-  void ChooseTool(std::int16_t tool);
+  void chooseTool(std::int16_t tool);
   void Slider1_Scroll();
   void picPalet_MouseDown(const Mouse& at);
   void picPalet_MouseMove(const Mouse& at);
@@ -35,18 +35,23 @@ class SmallStudio : public SmallStudioControls {
   explicit SmallStudio(const SmallStudioLayout& layout);
 
   /// Pointer, message, undo and whatever else goes with the tool that was chosen.
-  virtual void ApplyTool();
+  virtual void applyTool();
 
   std::int16_t Gereedschap = 1;
 
  private:
-  void Opvullen(const Mouse& at);
-  void Spuiten(const Mouse& at);
-  void PotloodVolg(const Mouse& at);
-  void OvaalBegin(const Mouse& at);
-  void OvaalVolg(const Mouse& at);
-  void OvaalEinde();
-  void TrekVorm(const Mouse& at, surface::BoxFlag flag);
+  void showInHand(CommandButton& chosen);
+  void askToSave();
+
+  void fill(const Mouse& at);
+  void spray(const Mouse& at);
+  void followPencil(const Mouse& at);
+  void beginOval(const Mouse& at);
+  void followOval(const Mouse& at);
+  void endOval();
+  void endShape(const Mouse& at, surface::BoxFlag flag);
+
+  CommandButton* inHand = nullptr;  ///< of all tools the one that looks pressed
 
   // The shape that is being dragged; 0 in either value means that none has begun.
   float BeginX = 0;

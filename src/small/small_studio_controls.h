@@ -27,8 +27,8 @@ class SmallStudioControls : public surface::Form {
   // The buttons in three soft colours: drawing, mending, keeping.
   static constexpr Color Draw = 0xFFFFFF, Mend = 0xC0FFFF, Keep = 0xFFE6CF;
 
-  CommandButton::Design tool(int row, int column, Color back, const char* picture,
-                             const char* tip) const;
+  CommandButton::Design tool(int row, int column, Color back, const char* picture, const char* tip,
+                             const char* key = "") const;
   PictureBox::Design sheet(bool visible) const;
   static ImageControl::Design cursor(const char* name);
 
@@ -42,16 +42,17 @@ class SmallStudioControls : public surface::Form {
       *this, tool(1, 1, Draw, "kleinopvullen", "opvullen van een gesloten oppervlak")};
   CommandButton cmdSpuitbus{*this,
                             tool(1, 2, Draw, "kleinspuitbus", "een spuitbus om mee te tekenen")};
-  CommandButton cmdUndo{*this,
-                        tool(2, 0, Mend, "kleinundo", "de LAATSTE lijn of vorm ONGEDAAN maken")};
+  CommandButton cmdUndo{
+      *this, tool(2, 0, Mend, "kleinundo", "de LAATSTE lijn of vorm ONGEDAAN maken", "Ctrl+Z")};
   CommandButton cmdClear{*this, tool(2, 1, Mend, "kleinclear", "het hele blad wissen")};
   CommandButton cmdGom{*this, tool(2, 2, Mend, "kleingom", "gommetje om foutjes te verbeteren")};
-  CommandButton cmdOpenbestand{
-      *this, tool(3, 0, Keep, "kleinopenbestand", "een tekening uit een bestand ophalen")};
+  CommandButton cmdOpenbestand{*this, tool(3, 0, Keep, "kleinopenbestand",
+                                           "een tekening uit een bestand ophalen", "Ctrl+O")};
   CommandButton cmdKleurplaat{
       *this, tool(3, 0, Keep, "kleinkleurplaat", "een andere KLEURPLAAT uitkiezen")};
-  CommandButton cmdSaveAs{*this, tool(3, 1, Keep, "kleinsaveas", "een tekening OPSLAAN ALS ...")};
-  CommandButton cmdPrint{*this, tool(3, 2, Keep, "kleinprint", "je tekening AFDRUKKEN")};
+  CommandButton cmdSaveAs{
+      *this, tool(3, 1, Keep, "kleinsaveas", "een tekening OPSLAAN ALS ...", "Ctrl+S")};
+  CommandButton cmdPrint{*this, tool(3, 2, Keep, "kleinprint", "je tekening AFDRUKKEN", "Ctrl+P")};
 
   Slider Slider1{*this,
                  {.Left = layout.GridLeft,

@@ -378,6 +378,36 @@ TEST_F(SmallTools, WipingKeepsTheStateOfUndo) {
   EXPECT_FALSE(studio.cmdUndo.Enabled);
 }
 
+TEST_F(SmallTools, TheToolInHandLooksPressedAndNoOther) {
+  CommandButton* const tools[] = {&studio.cmdTekenen,  &studio.cmdLijn,     &studio.cmdRechthoek,
+                                  &studio.cmdOpvullen, &studio.cmdSpuitbus, &studio.cmdEllips,
+                                  &studio.cmdGom};
+  EXPECT_TRUE(studio.cmdTekenen.Pressed);
+  for (CommandButton* tool : tools) {
+    click(*tool);
+    for (CommandButton* other : tools) EXPECT_EQ(other->Pressed, other == tool);
+  }
+  click(studio.cmdClear);
+  EXPECT_TRUE(studio.cmdTekenen.Pressed);
+  EXPECT_FALSE(studio.cmdGom.Pressed);
+}
+
+TEST_F(SmallTools, ADrawingIsNotToBeLost) {
+  EXPECT_TRUE(formsWithDrawing().empty());
+  drag(sheet, 100, 100, 140, 100);
+  ASSERT_EQ(formsWithDrawing().size(), 1u);
+  EXPECT_EQ(formsWithDrawing()[0], &studio);
+  answerMessage(No);
+  studio.LogOut();
+  EXPECT_EQ(asked()[0].text, "Wil je de huidige tekening opslaan ?");
+}
+
+TEST_F(SmallTools, NoKeyLeavesAFreshStudio) {
+  type(" ");
+  EXPECT_TRUE(studio.shown());
+  EXPECT_EQ(studio.lblModus.Caption, "WILLEKEURIGE LIJNEN tekenen") << "the pencil has the focus";
+}
+
 TEST_F(SmallTools, TheMessageBoardSaysWhatItIs) {
   click(studio.lblModus);
   EXPECT_EQ(studio.lblModus.Caption, "het MEDEDELINGENBORD");
