@@ -10,6 +10,7 @@
 #include "files/picture_files.h"
 #include "shell/frmStart.h"
 #include "support/script.h"
+#include "support/tree_folder.h"
 
 using namespace surface;
 
@@ -110,12 +111,16 @@ TEST_F(Lessons, SeventeenTimesFurtherShowsWhatTheTableSays) {
     for (const auto& [name, control] : named) {
       // What a step has shown or hidden is switched with it.
       if (control->Visible) seenOnce.insert(name);
-      if (seenOnce.contains(name)) EXPECT_EQ(control->Enabled, control->Visible.get()) << name;
+      if (seenOnce.contains(name)) {
+        EXPECT_EQ(control->Enabled, control->Visible.get()) << name;
+      }
     }
     for (int n = 0; n < 17; ++n) {
       const CommandButton& button = *buttons[static_cast<std::size_t>(n)];
       EXPECT_EQ(button.Visible, n == step) << n + 1;
-      if (n <= step) EXPECT_EQ(button.Enabled, n == step) << n + 1;
+      if (n <= step) {
+        EXPECT_EQ(button.Enabled, n == step) << n + 1;
+      }
       EXPECT_EQ(button.Left, 3240);
       EXPECT_EQ(button.Top, 3840);
       EXPECT_EQ(button.Width, 1695);
@@ -132,7 +137,9 @@ TEST_F(Lessons, SeventeenTimesFurtherShowsWhatTheTableSays) {
     EXPECT_EQ(lesson.txt3.Text, step == 10 || step == 11 ? "1" : "");
     EXPECT_EQ(lesson.cmdSluiten.Left, step == 17 ? 3720 : 120);
     EXPECT_EQ(lesson.cmdSluiten.Top, step == 17 ? 5160 : 3840);
-    if (step == 9) EXPECT_EQ(lesson.lblModus.Caption, "Klik eens op elke knop.");
+    if (step == 9) {
+      EXPECT_EQ(lesson.lblModus.Caption, "Klik eens op elke knop.");
+    }
   }
   EXPECT_FALSE(std::getline(file, *std::make_unique<std::string>())) << "a lesson too many";
 }

@@ -8,6 +8,7 @@
 #include "shell/frmStart.h"
 #include "small/small_studio.h"
 #include "support/script.h"
+#include "support/tree_folder.h"
 #include "surface/host.h"
 
 using namespace surface;

@@ -11,6 +11,7 @@
 #include "small/frmKleurplaat3.h"
 #include "small/frmKleurplaat4.h"
 #include "small/stage.h"
+#include "support/tree_folder.h"
 
 using namespace surface;
 

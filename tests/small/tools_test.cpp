@@ -63,7 +63,9 @@ TEST_F(SmallTools, EachToolHasItsMessageItsPointerAndItsUndo) {
     click(row.button);
     EXPECT_EQ(studio.lblModus.Caption, row.message);
     EXPECT_EQ(sheet.MousePointer, row.pointer) << row.message;
-    if (row.pointer == PointerCustom) EXPECT_EQ(sheet.MouseIcon, row.icon) << row.message;
+    if (row.pointer == PointerCustom) {
+      EXPECT_EQ(sheet.MouseIcon, row.icon) << row.message;
+    }
     EXPECT_EQ(studio.cmdUndo.Enabled, row.undo) << row.message;
   }
 }
