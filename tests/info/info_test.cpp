@@ -2,6 +2,7 @@
 #include <QPlainTextEdit>
 #include <QScrollBar>
 #include <QTest>
+#include <QWindow>
 
 #include "info/frmGebruik.h"
 #include "info/frmHelp1.h"
@@ -42,6 +43,9 @@ QPlainTextEdit& editOf(TextBox& box) {
 class Information : public script::Stage {
  protected:
   Information() { app().Path = KRASPRET_TREE; }
+  static void pressAlt(Control& control, Qt::Key key) {
+    QTest::keyClick(script::widgetOf(control)->window()->windowHandle(), key, Qt::AltModifier);
+  }
   Form& newest() { return *FormRegistry::instance().forms().back(); }
   std::size_t loaded() { return FormRegistry::instance().forms().size(); }
 };
@@ -135,11 +139,11 @@ TEST_F(Information, TheUnderlinedLettersPressTheButtons) {
   auto& info = the<frmInfo>();
   info.Show();
   info.txtInfo.Text = "1";
-  QTest::keyClick(script::widgetOf(info.Text1), Qt::Key_S, Qt::AltModifier);
+  pressAlt(info.Text1, Qt::Key_S);
   advance(0);
   EXPECT_FALSE(isLoaded<frmInfo>());
   auto& contract = showNew<frmGebruik>();
-  QTest::keyClick(script::widgetOf(contract.Text2), Qt::Key_A, Qt::AltModifier);
+  pressAlt(contract.Text2, Qt::Key_A);
   advance(0);
   EXPECT_EQ(loaded(), 1u);
   EXPECT_TRUE(the<frmStart>().shown());
@@ -235,7 +239,7 @@ TEST_F(Information, ALongTextScrollsByKeysWheelAndAVisibleBarAndCannotBeChanged)
   QPlainTextEdit& edit = editOf(help.Text1);
   QScrollBar& bar = *edit.verticalScrollBar();
   EXPECT_TRUE(bar.isVisible());
-  EXPECT_FALSE(edit.horizontalScrollBar()->isVisible());
+  EXPECT_EQ(edit.lineWrapMode(), QPlainTextEdit::WidgetWidth);
   QTest::keyClick(&edit, Qt::Key_PageDown);
   const int afterKey = bar.value();
   EXPECT_GT(afterKey, 0);
@@ -244,7 +248,7 @@ TEST_F(Information, ALongTextScrollsByKeysWheelAndAVisibleBarAndCannotBeChanged)
   QTest::keyClick(&edit, Qt::Key_X);
   EXPECT_FALSE(edit.toPlainText().contains("xTekenen"));
   EXPECT_EQ(edit.toPlainText().toStdString(), help.Text1.Text.get());
-  QTest::keyClick(&edit, Qt::Key_End, Qt::ControlModifier);
-  EXPECT_EQ(bar.value(), bar.maximum());
+  for (int page = 0; page < 20; ++page) QTest::keyClick(&edit, Qt::Key_PageDown);
+  EXPECT_EQ(bar.value(), bar.maximum()) << "the last line cannot be reached";
   EXPECT_GE(edit.fontInfo().pixelSize(), 16);
 }

@@ -154,8 +154,8 @@ TEST_F(SmallTools, TheFirstDragShowsASampleThatStaysAndIsNoPartOfThePicture) {
   move(sheet, 310, 300, 1);
   EXPECT_TRUE(studio.Line1.Visible);
   EXPECT_EQ(studio.Line1.BorderWidth, 3);
-  EXPECT_EQ(studio.Line1.X1, 720);
-  EXPECT_EQ(studio.Line1.Y2, 720);
+  EXPECT_EQ(studio.Line1.X1, 48);
+  EXPECT_EQ(studio.Line1.Y2, 48);
   release(sheet, 310, 300);
   EXPECT_TRUE(studio.Line1.Visible);
   EXPECT_EQ(at(60, 30), White) << "the sample is above the picture, not in it";
