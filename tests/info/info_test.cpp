@@ -2,7 +2,6 @@
 #include <QPlainTextEdit>
 #include <QScrollBar>
 #include <QTest>
-#include <QWindow>
 
 #include "info/frmGebruik.h"
 #include "info/frmHelp1.h"
@@ -43,9 +42,6 @@ QPlainTextEdit& editOf(TextBox& box) {
 class Information : public script::Stage {
  protected:
   Information() { app().Path = KRASPRET_TREE; }
-  static void pressAlt(Control& control, Qt::Key key) {
-    QTest::keyClick(script::widgetOf(control)->window()->windowHandle(), key, Qt::AltModifier);
-  }
   Form& newest() { return *FormRegistry::instance().forms().back(); }
   std::size_t loaded() { return FormRegistry::instance().forms().size(); }
 };
@@ -133,20 +129,6 @@ TEST_F(Information, TheButtonsOfTheSystemScreenDoNothingAndItsCloseBoxEndsIt) {
   closeBox(system);
   EXPECT_EQ(loaded(), 1u);
   EXPECT_TRUE(studio.shown());
-}
-
-TEST_F(Information, TheUnderlinedLettersPressTheButtons) {
-  auto& info = the<frmInfo>();
-  info.Show();
-  info.txtInfo.Text = "1";
-  pressAlt(info.Text1, Qt::Key_S);
-  advance(0);
-  EXPECT_FALSE(isLoaded<frmInfo>());
-  auto& contract = showNew<frmGebruik>();
-  pressAlt(contract.Text2, Qt::Key_A);
-  advance(0);
-  EXPECT_EQ(loaded(), 1u);
-  EXPECT_TRUE(the<frmStart>().shown());
 }
 
 TEST_F(Information, SmallHelpHasAnEntryForEachControlInTheOrderOfTheScreen) {
