@@ -7,8 +7,8 @@ p.note("street")
 p.shape("-10 452!, 300 420, 630 366!, 630 560!, -10 560!")
 
 p.note("two lines of bunting")
-bunting(p, "-10 40, 100 58, 240 48, 360 -30", 4)
-bunting(p, "300 -20, 400 50, 520 82, 640 70", 4)
+bunting(p, "-10 40, 100 58, 220 48, 330 -40", 4)
+bunting(p, "340 -30, 410 50, 520 82, 640 70", 4)
 
 p.note("princess, small and behind, in profile")
 with p.at(500, 214):

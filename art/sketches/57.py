@@ -15,13 +15,13 @@ p.shape("-10 262, 200 246, 400 262, 640 250!, 640 560!, -10 560!")
 
 p.note("girl in front, in profile: her hands are empty")
 with p.at(218, 194, .92, flip=True):
-    p.one(arm("16 84, 50 104, 86 84", 30, 24, thumb=-1))
+    p.one(arm("16 90, 60 128, 98 118", 30, 24, thumb=-1))
     p.shape(limb("2 36, -4 62", 28, 28))
-    p.one("-32 62!, 24 58!, 40 100, 44 210!, -52 210!, -46 110")
+    p.one("-32 62!, 24 58!, 40 100, 44 210!, -70 210!, -52 104")
     with p.at(6, -6, 1, -4):
         head(p, "34", "braid", mouth="smile", brows=6)
         p.shape("-56 -30, -10 -46, 44 -38, 46 -24, -10 -30, -57 -14")
-    p.one(limb("-12 92, 22 132, 50 124", 42, 34, flat=True), arm("48 126, 64 116, 70 108", 28, 24, thumb=-1), join=(-14, 90, 20))
+    p.one(limb("-12 92, 14 134, 44 112", 42, 34, flat=True), arm("42 114, 58 96, 64 78", 28, 24, thumb=-1), join=(-14, 90, 20))
 
 p.note("grandfather behind, leaning into the stroke")
 with p.at(428, 168, 1.06, flip=True):

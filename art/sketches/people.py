@@ -51,11 +51,13 @@ def head(p, view="34", hair="short", eyes="dot", look=(1, 0), mouth="smile", bro
             p.line("24 -2, 29 6, 21 9")
         p.mouth(19, 23, 15, mouth, 3)
     cap(p, hair)
-    if ear and p.scale < .75:
-        p.line("-13 -2, -26 -2, -28 10, -16 16")
-    elif ear:
+    if ear and hair == "curly":
         p.shape("-14 -2, -26 -4, -30 8, -24 18, -13 15")
-        p.line("-22 5, -19 11")
+    elif ear:                                   # open towards the cheek: ear and face are one area
+        p.put(f'<path stroke="none" d="{p.path("-8 -4, -26 -4, -30 8, -24 18, -8 16")}"/>')
+        p.line("-14 -3, -26 -4, -31 8, -24 19, -13 15", 4)
+        if p.scale > .85:
+            p.line("-23 4, -19 10")
 
 
 def hair_back(hair):
@@ -104,4 +106,5 @@ def shoe(p, x, y, turn=0, size=1, flip=False):
     """A shoe whose ankle stands at (x, y), toe to the right."""
     with p.at(x, y, size, turn, flip):
         p.shape("-13 -8!, -15 8, -14 20!, 34 20!, 36 8, 22 0, 12 -8!")
-        p.line("-12 12, 34 12")
+        if size > 1.15:
+            p.line("-12 12, 34 12")
