@@ -6,6 +6,10 @@ p = Page("50", "Carnival: the bear cub walks into the clown's lifted shoe; behin
 p.note("street")
 p.shape("-10 452!, 300 420, 630 366!, 630 560!, -10 560!")
 
+p.note("roofs far away")
+p.shape("-10 330!, 30 270!, 84 330!, 84 470!, -10 470!")
+p.shape("-10 452!, 300 420, 630 366!, 630 560!, -10 560!")
+
 p.note("two lines of bunting")
 bunting(p, "-10 40, 100 58, 220 48, 330 -40", 4)
 bunting(p, "340 -30, 410 50, 520 82, 640 70", 4)

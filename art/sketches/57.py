@@ -19,7 +19,7 @@ with p.at(218, 194, .92, flip=True):
     p.shape(limb("2 36, -4 62", 28, 28))
     p.one("-32 62!, 24 58!, 40 100, 44 210!, -70 210!, -52 104")
     with p.at(6, -6, 1, -4):
-        head(p, "34", "braid", mouth="smile", brows=6)
+        head(p, "34", "bob", mouth="smile", brows=6)
         p.shape("-56 -30, -10 -46, 44 -38, 46 -24, -10 -30, -57 -14")
     p.one(limb("-12 92, 14 134, 44 112", 42, 34, flat=True), arm("42 114, 58 96, 64 78", 28, 24, thumb=-1), join=(-14, 90, 20))
 
