@@ -53,7 +53,7 @@ def head(p, view="34", hair="short", eyes="dot", look=(1, 0), mouth="smile", bro
     cap(p, hair)
     if ear and hair == "curly":
         p.shape("-14 -2, -26 -4, -30 8, -24 18, -13 15")
-    elif ear:                                   # open towards the cheek: ear and face are one area
+    elif ear and hair != "bob":                 # open towards the cheek: ear and face are one area
         p.put(f'<path stroke="none" d="{p.path("-8 -4, -26 -4, -30 8, -24 18, -8 16")}"/>')
         p.line("-14 -3, -26 -4, -31 8, -24 19, -13 15", 4)
         if p.scale > .85:
