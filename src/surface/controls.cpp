@@ -42,7 +42,8 @@ Label::Label(Container& container, const Design& d)
       BackColor(*this, d.BackColor),
       ForeColor(*this, d.ForeColor),
       Font(*this, d.Font),
-      Centred(d.Centred) {
+      Centred(d.Centred),
+      Framed(d.Framed) {
   ToolTipText.setQuietly(d.ToolTipText);
 }
 

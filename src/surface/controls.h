@@ -47,8 +47,9 @@ class CommandButton : public Control {
 };
 
 /// A text that wraps within its width; runs of blanks are kept, since they break the lines. With
-/// NoColor as its BackColor what lies beneath shows between the letters. An empty one is spoken by
-/// its tooltip.
+/// NoColor as its BackColor what lies beneath shows between the letters; a framed one is such a
+/// text in a thin frame, and leaves the pointer to what lies beneath. An empty one is spoken by its
+/// tooltip.
 class Label : public Control {
  public:
   struct Design {
@@ -57,7 +58,7 @@ class Label : public Control {
     std::string ToolTipText = {};
     Color BackColor = ButtonFace, ForeColor = Black;
     surface::Font Font = {};
-    bool Centred = false, Visible = true;
+    bool Centred = false, Framed = false, Visible = true;
   };
   Label(Container& container, const Design& design);
 
@@ -65,7 +66,7 @@ class Label : public Control {
   Prop<Color, &Label::lookChanged> BackColor;
   Prop<Color, &Label::lookChanged> ForeColor;
   FontProp<&Label::lookChanged> Font;
-  const bool Centred;
+  const bool Centred, Framed;
   Event<> Click;
 };
 

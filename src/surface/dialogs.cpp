@@ -38,6 +38,10 @@ void CommonDialog::showFiles(bool save) {
     cancelled();
 }
 
+void CommonDialog::ShowPrinter() {
+  if (!unlessEnded(host().printerDialog())) cancelled();
+}
+
 void CommonDialog::ShowColor() {
   if (const auto chosen = unlessEnded(host().colorDialog(Color, Flags)))
     Color = *chosen;

@@ -30,6 +30,8 @@ class CommonDialog {
   void ShowOpen() { showFiles(false); }
   void ShowSave() { showFiles(true); }
   void ShowColor();
+  /// The printer that is chosen here is the one that Printer() means from then on.
+  void ShowPrinter();
 
  private:
   void showFiles(bool save);

@@ -197,15 +197,7 @@ void DrawingSurface::PaintPicture(const surface::Picture& picture, PointF to,
 void DrawingSurface::Print(const std::string& text) {
   const TextMask mask = host().rasterText(Font, text);
   const Pixels origin = pixelsOf({CurrentX, CurrentY});
-  const raster::Target onto = target();
-  const raster::Pen ink{raster::PenStyle::Solid, 1, toPixel(ForeColor)};
-  raster::Rect changed;
-  for (int y = 0; y < mask.height; ++y)
-    for (int x = 0; x < mask.width; ++x)
-      if (mask.dots[static_cast<std::size_t>(y) * mask.width + x])
-        changed = unite(changed,
-                        raster::dot(onto, ink, origin.x + mask.left + x, origin.y + mask.top + y));
-  damage(changed);
+  damage(paintMask(target(), mask, origin.x, origin.y, toPixel(ForeColor)));
   CurrentX = ScaleLeft();
   CurrentY += static_cast<float>(mask.lineHeight / scale().pixelsPerUnitY());
 }

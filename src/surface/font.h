@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "surface/prop.h"
 
@@ -55,5 +56,8 @@ class FontProp {
   Prop<bool, Changed> Underline;
   Prop<bool, Changed> Strikethru;
 };
+
+/// The names of the screen's fonts of any size that can write Dutch, sorted, each once.
+std::vector<std::string> ScreenFonts();
 
 }  // namespace surface

@@ -226,4 +226,13 @@ std::vector<Form*> formsWithDrawing();
 
 inline void Unload(Form& form) { FormRegistry::instance().unload(form); }
 
+/// Unloads every instance of a form class; loads none.
+template <class F>
+void unloadAll() {
+  std::vector<Form*> found;
+  for (const auto& form : FormRegistry::instance().forms())
+    if (dynamic_cast<F*>(form.get())) found.push_back(form.get());
+  for (Form* form : found) Unload(*form);
+}
+
 }  // namespace surface

@@ -8,4 +8,6 @@ Host& host() {
   return theHost;
 }
 
+std::vector<std::string> ScreenFonts() { return host().screenFonts(); }
+
 }  // namespace surface

@@ -13,27 +13,19 @@
 #include "surface/font.h"
 #include "surface/picture.h"
 #include "surface/raster/bitmap.h"
+#include "surface/text_mask.h"
 
 namespace surface {
 
 class Form;
 class FormPeer;
+struct Printed;
 
 /// What a file dialog is asked for.
 struct FileRequest {
   bool save = false;
   std::string filter;   ///< "name|pattern|name|pattern..."
   int filterIndex = 1;  ///< the row selected at first, from 1
-};
-
-/// A text turned into dots: `dots` has width x height bytes, 1 where the text paints.
-struct TextMask {
-  int width = 0, height = 0;
-  int left = 0,
-      top = 0;  ///< of the dots, relative to the text's origin (upper left of its line), pixels
-  float advance = 0;   ///< how far the next text would stand to the right, pixels
-  int lineHeight = 0;  ///< pixels
-  std::vector<std::uint8_t> dots;
 };
 
 struct Host {
@@ -45,6 +37,8 @@ struct Host {
       inputBox;
   std::function<std::optional<std::string>(const FileRequest&)> fileDialog;
   std::function<std::optional<Color>(Color initial, int flags)> colorDialog;
+  std::function<bool()> printerDialog;                         ///< whether a printer was chosen
+  std::function<void(const std::vector<Printed>&)> printPage;  ///< on the one chosen last
   std::function<Picture(const std::string& path)> loadPicture;
   std::function<void(const Picture&, const std::string& path)> savePicture;
   /// One of the program's own pictures by name; empty if there is none of that name.
@@ -52,6 +46,7 @@ struct Host {
   std::function<void(const Picture&)> setClipboard;  ///< an empty picture clears it
   std::function<Picture()> getClipboard;
   std::function<TextMask(const Font&, const std::string& text)> rasterText;
+  std::function<std::vector<std::string>()> screenFonts;
   std::function<raster::Rect()> screen;  ///< the whole of it, pixels
   std::function<std::int64_t()> clock;   ///< milliseconds, never backwards
   std::function<std::uint64_t()> seed;   ///< something that differs from call to call

@@ -10,6 +10,7 @@
 #include "surface/form.h"
 #include "surface/gdi.h"
 #include "surface/numbers.h"
+#include "surface/printer.h"
 #include "surface/random.h"
 #include "surface/screen.h"
 #include "surface/timer.h"

@@ -76,7 +76,8 @@ Stage::~Stage() {
   FormRegistry::instance().clear();
   settle();
   if (errorReport_) ADD_FAILURE() << "the program ended with an error report: " << *errorReport_;
-  if (!messages_.empty() || !inputs_.empty() || !files_.empty() || !colors_.empty())
+  if (!messages_.empty() || !inputs_.empty() || !files_.empty() || !colors_.empty() ||
+      !printers_.empty())
     ADD_FAILURE() << "an answer was never asked for";
   if (!folder_.empty()) std::filesystem::remove_all(folder_);
   surface::qt::install();
@@ -103,6 +104,8 @@ void Stage::installSeams() {
         files_, {},
         {request.save ? "save" : "open", "", "", 0, "", request.filter, request.filterIndex});
   };
+  seams.printerDialog = [this] { return take(printers_, false, {"printer"}); };
+  seams.printPage = [this](const std::vector<Printed>& page) { pages.push_back(page); };
   seams.colorDialog = [this](Color initial, int flags) {
     return take(colors_, {}, {"color", "", "", flags, std::to_string(initial)});
   };

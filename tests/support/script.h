@@ -18,9 +18,9 @@ class QWidget;
 namespace script {
 
 /// What a dialog was asked, in the order of the asking: message boxes, input boxes, file and colour
-/// dialogs.
+/// dialogs, the printer's.
 struct Asked {
-  std::string kind;  ///< "message", "input", "open", "save", "color"
+  std::string kind;  ///< "message", "input", "open", "save", "color", "printer"
   std::string text = {};
   std::string title = {};
   int buttons = 0;
@@ -44,14 +44,18 @@ class Stage : public ::testing::Test {
   void cancelFile() { files_.push_back(std::nullopt); }
   void answerColor(surface::Color color) { colors_.push_back(color); }
   void cancelColor() { colors_.push_back(std::nullopt); }
+  void answerPrinter(bool chosen) { printers_.push_back(chosen); }
   const std::vector<Asked>& asked() const { return asked_; }
 
   /// Lets the clock run: every timer that falls due fires at its moment.
   void advance(std::int64_t milliseconds);
 
-  /// The error report of an untrapped error, if one was shown. A test that expects one takes it;
-  /// otherwise it fails the test.
+  /// The report of an error, untrapped or survived, if one was shown. A test that expects one takes
+  /// it; otherwise it fails the test.
   std::optional<std::string> takeErrorReport();
+
+  /// The pages that were printed.
+  std::vector<std::vector<surface::Printed>> pages;
 
   // The clipboard, kept in the test.
   surface::Picture clipboard;
@@ -85,6 +89,7 @@ class Stage : public ::testing::Test {
   std::deque<int> messages_;
   std::deque<std::optional<std::string>> inputs_, files_;
   std::deque<std::optional<surface::Color>> colors_;
+  std::deque<bool> printers_;
   std::vector<Asked> asked_;
   std::optional<std::string> errorReport_;
   std::int64_t now_ = 0;

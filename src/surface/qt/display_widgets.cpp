@@ -3,6 +3,7 @@
 
 #include <QMouseEvent>
 #include <QPainter>
+#include <algorithm>
 
 #include "surface/qt/art.h"
 #include "surface/qt/button.h"
@@ -15,6 +16,7 @@ namespace {
 
 // Keeps the letters of a label on a dark ground off its edge.
 constexpr int Inset = 2;
+constexpr QColor Grey(0x80, 0x80, 0x80);
 
 bool clicks(const QWidget& widget, const QMouseEvent& event) {
   return event.button() == Qt::LeftButton && widget.rect().contains(pixelUnder(event));
@@ -32,6 +34,7 @@ QPixmap shrunk(const QPixmap& picture, QSize place) {
 
 LabelWidget::LabelWidget(Label& owner, QWidget& parent) : QLabel(&parent), control(&owner) {
   setTextFormat(Qt::PlainText);
+  setAttribute(Qt::WA_TransparentForMouseEvents, owner.Framed);
 }
 
 void LabelWidget::sync(Aspect aspect) {
@@ -50,14 +53,21 @@ void LabelWidget::sync(Aspect aspect) {
   const std::string& name = control->AccessibleName;
   const bool silent = name.empty() && text().isEmpty();
   setAccessibleName(QString::fromStdString(silent ? control->ToolTipText.get() : name));
+  // Of a frame without width one side remains.
+  if (aspect == Aspect::Place && control->Framed) resize(std::max(1, width()), height());
 }
 
 void LabelWidget::paintEvent(QPaintEvent*) {
   if (!control) return;
   QPainter painter(this);
-  if (control->BackColor != NoColor) painter.fillRect(rect(), toQColor(control->BackColor));
+  if (control->Framed) {
+    painter.setPen(Grey);  // seen on white and on black
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+  } else if (control->BackColor != NoColor) {
+    painter.fillRect(rect(), toQColor(control->BackColor));
+  }
   painter.setFont(font());
-  painter.setPen(toQColor(control->ForeColor));
+  painter.setPen(isEnabled() ? toQColor(control->ForeColor) : Grey);
   drawCaption(painter, rect().adjusted(Inset, 0, -Inset, 0),
               QString::fromStdString(control->Caption), control->Centred);
 }
@@ -97,7 +107,7 @@ void FrameWidget::paintEvent(QPaintEvent* event) {
   if (!title.isEmpty()) {
     const QRect place(8, 0, metrics.horizontalAdvance(title) + 4, metrics.height());
     painter.fillRect(place, toQColor(control->BackColor));
-    painter.setPen(Qt::black);
+    painter.setPen(isEnabled() ? QColor(Qt::black) : Grey);
     painter.drawText(place.left() + 2, metrics.ascent(), title);
   }
 }

@@ -3,7 +3,6 @@
 #include "surface/qt/images.h"
 
 #include <QBuffer>
-#include <QFontMetrics>
 #include <QImageReader>
 #include <QPainter>
 #include <algorithm>
@@ -13,7 +12,6 @@
 #include "surface/disk.h"
 #include "surface/errors.h"
 #include "surface/qt/picture_bytes.h"
-#include "surface/qt/text_layout.h"
 
 namespace surface::qt {
 namespace {
@@ -255,36 +253,6 @@ Picture takenPicture(const QImage& image) {
   const int rows = rowsKept(image.width(), image.height(), MostPixelsKept);
   if (rows == image.height() && image.width() <= LargestSideKept) return toPicture(image);
   return toPicture(image.copy(0, 0, std::min(image.width(), LargestSideKept), rows));
-}
-
-TextMask rasterText(const Font& font, const std::string& text) {
-  QFont face = toQFont(font);
-  face.setStyleStrategy(
-      static_cast<QFont::StyleStrategy>(QFont::NoAntialias | QFont::NoSubpixelAntialias));
-  face.setHintingPreference(QFont::PreferNoHinting);
-  const QFontMetrics metrics(face);
-  const QString line = QString::fromStdString(text);
-  TextMask mask;
-  mask.advance = static_cast<float>(metrics.horizontalAdvance(line));
-  mask.lineHeight = metrics.height();
-  // Slanted letters reach beyond their advance, so there is room on all sides.
-  const int margin = metrics.height();
-  mask.left = -margin;
-  mask.top = -margin;
-  mask.width = metrics.horizontalAdvance(line) + 2 * margin;
-  mask.height = metrics.height() + 2 * margin;
-  QImage image(mask.width, mask.height, QImage::Format_Grayscale8);
-  image.fill(255);
-  QPainter painter(&image);
-  painter.setFont(face);
-  painter.setPen(Qt::black);
-  painter.drawText(margin, margin + metrics.ascent(), line);
-  painter.end();
-  mask.dots.resize(static_cast<std::size_t>(mask.width) * mask.height);
-  for (int y = 0; y < mask.height; ++y)
-    for (int x = 0; x < mask.width; ++x)
-      mask.dots[static_cast<std::size_t>(y) * mask.width + x] = image.constScanLine(y)[x] < 128;
-  return mask;
 }
 
 }  // namespace surface::qt

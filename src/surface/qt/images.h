@@ -1,11 +1,9 @@
-// Pictures and the toolkit's images: conversion, files, and text turned into dots.
+// Pictures and the toolkit's images: conversion and files.
 #pragma once
 
 #include <QImage>
 #include <string>
 
-#include "surface/font.h"
-#include "surface/host.h"
 #include "surface/picture.h"
 
 namespace surface::qt {
@@ -27,8 +25,5 @@ Picture loadPicture(const std::string& path);
 /// Writes an uncompressed 24-bit Windows bitmap beside the target and puts it in its place when
 /// every byte is on disk. CannotWrite.
 void savePicture(const Picture& picture, const std::string& path);
-
-/// The text without anti-aliasing and hinting, so that it has the same dots on every machine.
-TextMask rasterText(const Font& font, const std::string& text);
 
 }  // namespace surface::qt

@@ -24,8 +24,10 @@
 #include "surface/numbers.h"
 #include "surface/qt/art.h"
 #include "surface/qt/dialogs.h"
+#include "surface/qt/fonts.h"
 #include "surface/qt/form_window.h"
 #include "surface/qt/images.h"
+#include "surface/qt/printing.h"
 #include "surface/qt/signals.h"
 #include "surface/qt/surface_widget.h"
 #include "surface/timer.h"
@@ -106,6 +108,8 @@ void install() {
   seams.inputBox = inputBox;
   seams.fileDialog = fileDialog;
   seams.colorDialog = colorDialog;
+  seams.printerDialog = printerDialog;
+  seams.printPage = printPage;
   seams.loadPicture = loadPicture;
   seams.savePicture = savePicture;
   seams.artPicture = artPicture;
@@ -116,6 +120,7 @@ void install() {
     const QSize size = QGuiApplication::primaryScreen()->size();
     return raster::Rect{0, 0, size.width(), size.height()};
   };
+  seams.screenFonts = screenFonts;
   seams.clock = milliseconds;
   seams.seed = [] { return QRandomGenerator::global()->generate64(); };
   seams.timersChanged = scheduleTimers;
