@@ -11,11 +11,14 @@
 #include <cstring>
 #include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "../raster/contender.h"
 #include "studio/frmTekenen2.h"
+#include "surface/host.h"
 #include "surface/qt/toolkit.h"
+#include "text/frmTekst.h"
 
 using namespace surface;
 
@@ -135,6 +138,43 @@ void panels(benchmark::State& state) {
   }
 }
 
+frmTekst& textForm() {
+  auto& studio = the<frmTekenen2>();
+  studio.cmdTekst.Click();
+  dispatch([&] { studio.picBlad.MouseDown({1, 0, 100, 100}); });
+  QApplication::processEvents();
+  return dynamic_cast<frmTekst&>(*FormRegistry::instance().forms().back());
+}
+
+// From the click on the sheet to the window, on a system of many fonts.
+void openTextForm(benchmark::State& state) {
+  studioWith(Standard);
+  const auto fonts = ScreenFonts();
+  const auto former = std::exchange(host().screenFonts, [&] {
+    std::vector<std::string> many;
+    while (many.size() < 300) many.push_back(fonts[many.size() % fonts.size()]);
+    return many;
+  });
+  for (auto _ : state) textForm().cmdAnnuleren.Click();
+  host().screenFonts = former;
+}
+
+// From the click on "Voeg in" to the repainted sheet: eleven prints.
+void placeDeepText(benchmark::State& state) {
+  studioWith(Standard);
+  for (auto _ : state) {
+    state.PauseTiming();
+    frmTekst& form = textForm();
+    form.txtTekst.Text = "Hiep hiep hoera, het is feest";
+    form.chk3Deffect.Value = 1;
+    form.Slider1.Value = 10;
+    QApplication::processEvents();
+    state.ResumeTiming();
+    dispatch([&] { form.cmdInvoegen.Click(); });
+    QApplication::processEvents();
+  }
+}
+
 // The slowest first opening of a panel, when its controls are made.
 double slowestFirstOpening() {
   auto& studio = studioWith(Standard);
@@ -197,6 +237,8 @@ bool table(const Times& times, double firstOpening) {
   good &= row("fill, press to repainted window", times.of("fill") / 1000, 3, "ms");
   good &= row("seven panels and closing, each", times.of("panels") / 7 / 1000, 16, "ms");
   good &= row("a panel's first opening, the slowest", firstOpening, 16, "ms");
+  good &= row("a text form of 300 fonts opens", times.of("text form") / 1000, 100, "ms");
+  good &= row("text of depth 10, click to repainted sheet", times.of("deep text") / 1000, 30, "ms");
   return good;
 }
 
@@ -224,6 +266,8 @@ int main(int argc, char** argv) {
   enter("memcpy", copyOfTheSheet);
   enter("fill", fillToScreen);
   enter("panels", panels);
+  enter("text form", openTextForm);
+  enter("deep text", placeDeepText);
   const auto strokes = artStrokes();
   std::vector<std::unique_ptr<race::Contender>> peers;
   for (const race::Maker make :

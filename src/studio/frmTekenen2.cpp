@@ -8,6 +8,7 @@
 #include "studio/frmLineaalH.h"
 #include "studio/frmLineaalV.h"
 #include "studio/modTekenen.h"
+#include "text/frmTekst.h"
 
 using namespace surface;
 
@@ -135,6 +136,7 @@ void frmTekenen2::wireRest() {
   cmdSaveAs.Click = [this] { cmdSaveAs_Click(); };
   cmdOpenbestand.Click = [this] { cmdOpenbestand_Click(); };
   Command1.Click = [this] { Command1_Click(); };
+  cmdPrint.Click = [this] { cmdPrint_Click(); };
   cmdEinde.Click = [this] { cmdEinde_Click(); };
 }
 
@@ -229,6 +231,7 @@ void frmTekenen2::Command1_Click() {
 void frmTekenen2::cmdEinde_Click() {
   Unload(the<frmLineaalH>());
   Unload(the<frmLineaalV>());
+  unloadAll<frmTekst>();
   the<frmStart>().Show();
   Unload(*this);
 }

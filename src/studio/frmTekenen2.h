@@ -74,9 +74,13 @@ class frmTekenen2 : public frmTekenen2_controls {
   void cmdCopy_Click();
   void cmdPlakken_Click();
 
-  // files/large_studio.cpp: opening, saving, the command line
+  // text/placing.cpp: a place for a text
+  bool askForText(const Mouse& at);
+
+  // files/large_studio.cpp: opening, saving, printing, the command line
   void cmdSaveAs_Click();
   void cmdOpenbestand_Click();
+  void cmdPrint_Click();
   void LoadCommandLine();
 
  private:

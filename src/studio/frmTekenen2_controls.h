@@ -273,6 +273,7 @@ class frmTekenen2_controls : public surface::Form {
                   .Width = 1500,
                   .Height = 600,
                   .BackColor = surface::White,
+                  .Framed = true,
                   .Visible = false}};
   ProgressBar ProgressBar1{
       *this, {.Left = 5760, .Top = 3960, .Width = 3495, .Height = 375, .Visible = false}};

@@ -12,6 +12,7 @@ void frmTekenen2::picBlad_MouseDown(const Mouse& at) {
   if (Gereedschap == 1) penDown(at);
   if (Gereedschap == 6) fill(at);
   if (Gereedschap == 7) pickColor(at);
+  if (Gereedschap == 8 && !askForText(at)) return;
   if (Gereedschap == 10) beginArtLine(at);
   if (Gereedschap == 12 && at.Button == 1) beginOval(at);
   if (Gereedschap == 13) {

@@ -26,6 +26,7 @@
 #include "support/script.h"
 #include "support/tree_folder.h"
 #include "surface/host.h"
+#include "text/frmTekst.h"
 
 using namespace surface;
 
@@ -65,7 +66,8 @@ const Opening Screens[] = {{"frmCursus", opened<frmCursus>},
                            {"frmLineaalH", opened<frmLineaalH>},
                            {"frmLineaalV", opened<frmLineaalV>},
                            {"frmStart", openedDefault<frmStart>},
-                           {"frmTekenen2", openedDefault<frmTekenen2>}};
+                           {"frmTekenen2", openedDefault<frmTekenen2>},
+                           {"frmTekst", opened<frmTekst>}};
 
 bool isLoadedStill(const Form& form) {
   for (const auto& loaded : FormRegistry::instance().forms())
@@ -109,6 +111,7 @@ class EveryForm : public script::Stage, public testing::WithParamInterface<Openi
     };
     seams.fileDialog = [](const FileRequest&) { return std::optional<std::string>(); };
     seams.colorDialog = [](Color, int) { return std::optional<Color>(); };
+    seams.printerDialog = [] { return false; };
   }
 };
 

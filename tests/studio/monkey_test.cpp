@@ -13,6 +13,7 @@
 #include "studio/frmTekenen2.h"
 #include "support/script.h"
 #include "surface/host.h"
+#include "text/frmTekst.h"
 
 using namespace surface;
 
@@ -73,7 +74,7 @@ class Monkey : public script::Stage, public testing::WithParamInterface<unsigned
     const char* name;
     void (Monkey::*act)();
   };
-  static const std::array<Action, 12> Actions;
+  static const std::array<Action, 13> Actions;
 
   // From 0 to below n; the same on every machine.
   int upTo(int n) { return static_cast<int>(random_() % static_cast<unsigned>(n)); }
@@ -102,6 +103,7 @@ class Monkey : public script::Stage, public testing::WithParamInterface<unsigned
   void moveSlider();
   void pickRow();
   void dragOnPalette();
+  void useATextForm();
   void letTimePass();
   void pressBareForm();
   void pressKeys();
@@ -111,7 +113,7 @@ class Monkey : public script::Stage, public testing::WithParamInterface<unsigned
   const char* last_ = "nothing";
 };
 
-const std::array<Monkey::Action, 12> Monkey::Actions = {
+const std::array<Monkey::Action, 13> Monkey::Actions = {
     {{30, "a drag on the sheet", &Monkey::dragOnSheet},
      {3, "a drag with two buttons", &Monkey::dragWithTwoButtons},
      {8, "moves on the sheet", &Monkey::moveOnSheet},
@@ -120,6 +122,7 @@ const std::array<Monkey::Action, 12> Monkey::Actions = {
      {6, "a slider", &Monkey::moveSlider},
      {4, "a row of the list", &Monkey::pickRow},
      {8, "a drag on the palette", &Monkey::dragOnPalette},
+     {4, "a text form", &Monkey::useATextForm},
      {2, "time", &Monkey::letTimePass},
      {2, "a click on the bare form", &Monkey::pressBareForm},
      {2, "keys", &Monkey::pressKeys},
@@ -161,6 +164,7 @@ void Monkey::answerAtRandom() {
     if (oneIn(20)) return folder() + "/" + std::string(5000, 'x');
     return folder() + "/" + oneOf(names);
   };
+  seams.printerDialog = [this] { return oneIn(2); };
   seams.colorDialog = [this](Color, int) -> std::optional<Color> {
     if (oneIn(4)) return std::nullopt;
     return upTo(0x1000000);
@@ -246,6 +250,35 @@ void Monkey::dragOnPalette() {
   for (int moves = upTo(4); moves > 0; --moves)
     move(studio().picPalet, upTo(200) - 15, upTo(150) - 8, with);
   release(studio().picPalet, upTo(200) - 15, upTo(150) - 8, with);
+}
+
+void Monkey::useATextForm() {
+  std::vector<frmTekst*> open;
+  for (const auto& form : FormRegistry::instance().forms())
+    if (auto* text = dynamic_cast<frmTekst*>(form.get()); text && text->shown())
+      open.push_back(text);
+  if (open.empty()) {
+    click(studio().cmdTekst);
+    press(sheet(), column(), row());
+    return release(sheet(), column(), row());
+  }
+  frmTekst& form = *open[static_cast<std::size_t>(upTo(static_cast<int>(open.size())))];
+  const std::string texts[] = {"", "Kat", "Zoë & Jan", "400", "-5", "9999999", "0", "45"};
+  std::vector<Control*> inside;
+  collect(form, inside);
+  for (int tries = upTo(6); tries > 0; --tries) {
+    Control* control = inside[static_cast<std::size_t>(upTo(static_cast<int>(inside.size())))];
+    if (auto* box = dynamic_cast<TextBox*>(control)) {
+      dispatch([&] { box->typed(oneOf(texts)); });
+    } else if (auto* list = dynamic_cast<ComboBox*>(control)) {
+      dispatch([&] { list->picked(upTo(list->ListCount())); });
+    } else if (auto* knob = dynamic_cast<Slider*>(control)) {
+      dispatch([&] { knob->scrolled(upTo(12)); });
+    } else if (control != &form.cmdInvoegen && control != &form.cmdAnnuleren) {
+      click(*control);
+    }
+  }
+  click(oneIn(2) ? form.cmdInvoegen : form.cmdAnnuleren);
 }
 
 void Monkey::letTimePass() { advance(upTo(3000)); }
