@@ -1,4 +1,5 @@
-// Pictures from and to disk in the large studio.
+// Pictures from and to disk and paper in the large studio.
+#include "files/afdrukken.h"
 #include "files/bestand.h"
 #include "studio/frmTekenen2.h"
 
@@ -20,6 +21,11 @@ void frmTekenen2::cmdOpenbestand_Click() {
 // Before another picture takes the drawing's place, and when the desktop logs out.
 void frmTekenen2::askToSave() {
   if (MsgBox("Wil je de huidige tekening opslaan ?", YesNo, "Opslaan") == Yes) cmdSaveAs_Click();
+}
+
+void frmTekenen2::cmdPrint_Click() {
+  lblModus.Caption = "je tekening AFDRUKKEN (als er een printer is)";
+  drukTekeningAf(CommonDialog2, picBlad);
 }
 
 void frmTekenen2::LoadCommandLine() { opdrachtregelNaarBlad(picBlad); }
