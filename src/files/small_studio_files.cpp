@@ -1,4 +1,5 @@
 // Pictures from and to disk in the small studio and the course.
+#include "files/afdrukken.h"
 #include "files/bestand.h"
 #include "small/small_studio.h"
 
@@ -24,6 +25,11 @@ void SmallStudio::cmdOpenbestand_Click() {
     picBlad.Picture = LoadPicture(kiesBestand(CommonDialog2));
     lblModus.Caption = "je kunt opnieuw TEKENEN";
   });
+}
+
+void SmallStudio::cmdPrint_Click() {
+  lblModus.Caption = "je TEKENING AFDRUKKEN";
+  drukTekeningAf(CommonDialog2, picBlad);
 }
 
 void SmallStudio::LoadCommandLine() { opdrachtregelNaarBlad(picBlad); }

@@ -89,6 +89,7 @@ SmallStudio::SmallStudio(const SmallStudioLayout& design) : SmallStudioControls(
   cmdClear.Click = [this] { cmdClear_Click(); };
   cmdOpenbestand.Click = [this] { cmdOpenbestand_Click(); };
   cmdSaveAs.Click = [this] { cmdSaveAs_Click(); };
+  cmdPrint.Click = [this] { cmdPrint_Click(); };
   Slider1.Scroll = [this] { Slider1_Scroll(); };
   lblModus.Click = [this] { lblModus.Caption = "het MEDEDELINGENBORD"; };
   picPalet.MouseDown = [this](const Mouse& at) { picPalet_MouseDown(at); };

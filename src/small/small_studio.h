@@ -26,9 +26,10 @@ class SmallStudio : public SmallStudioControls {
   void picBlad_MouseMove(const Mouse& at);
   void picBlad_MouseUp(const Mouse& at);
 
-  // files/small_studio_files.cpp: opening, saving, the command line
+  // files/small_studio_files.cpp: opening, saving, printing, the command line
   void cmdSaveAs_Click();
   void cmdOpenbestand_Click();
+  void cmdPrint_Click();
   void LoadCommandLine();
 
  protected:
