@@ -36,8 +36,9 @@ p.line("329 130, 329 230", 4)
 p.shape("246 372!, 318 368!, 322 396!, 240 400!")
 with p.within(box(256, 92, 58, 276)):
     with p.at(292, 176, .62, flip=True):
-        p.one("-30 62!, 20 58!, 44 90, 50 240!, -70 240!, -52 100")
+        p.one("-30 62!, 20 58!, 44 90, 50 310!, -70 310!, -52 100")
         head(p, "side", "tails", mouth="open", brows=None, r=7)
+p.one(arm("276 262, 272 294, 292 312", 22, 20, thumb=-1), join=(276, 258, 17))
 p.note("two whole wheels")
 for x, y in ((206, 380), (510, 366)):
     p.shape(oval(x, y, 52))
