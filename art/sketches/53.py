@@ -37,9 +37,6 @@ with p.at(0, 0):
     for x in (262, 384, 516):
         p.shape(oval(x, 394, 50))
     p.shape(limb("262 406, 516 406", 20, 20))
-    for x in (262, 384, 516):
-        p.shape(oval(x, 406, 7))
-
 p.note("cow on the track, nose to the buffer")
 with p.at(78, 336):
     p.shape(limb("-52 50, -54 84, -52 112", 34, 28, flat=True))

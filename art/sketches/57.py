@@ -6,12 +6,11 @@ p = Page("57", "Two in a canoe: the big one paddles with all his strength, the s
 p.note("mountains, firs, lake")
 p.shape("-10 240!, 90 110!, 150 170!, 220 60!, 330 200!, 380 150!, 470 236!")
 p.shape("178 130!, 220 60!, 272 128!, 244 120!, 222 140!, 202 118!")
-p.shape("-10 236, 160 222, 330 236, 640 220!, 640 560!, -10 560!")
+p.shape("-10 246, 160 236, 330 248, 640 236!, 640 560!, -10 560!")
 for x, y, s in ((570, 250, 1.5), (54, 236, .9)):
     with p.at(x, y, s):
         p.shape(box(-7, -24, 14, 30))
         p.shape("0 -150!, 34 -92!, 20 -92!, 48 -20!, -48 -20!, -20 -92!, -34 -92!")
-p.shape("-10 262, 200 246, 400 262, 640 250!, 640 560!, -10 560!")
 
 p.note("girl in front, in profile: her hands are empty")
 with p.at(218, 194, .92, flip=True):
