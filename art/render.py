@@ -82,13 +82,15 @@ def few_colours(image):
 
 
 def rainbow(width, height):
-    """White above, black below, the full colours half-way; hues 0 to 290 degrees from left to right."""
-    white, black = 4, 5
+    """White above, black below, the full colours half-way; hues 0 to 290 degrees from left to right, slowly at first:
+    red is as wide as a finger."""
+    white, black, red = 4, 5, 17
     image = Image.new("RGBA", (width, height), (255, 255, 255, 255))
     put = image.load()
     rows = height - white - black
     for x in range(width):
-        full = colorsys.hsv_to_rgb(290 / 360 * x / (width - 1), 1, 1)
+        hue = x / 2 if x < red else red / 2 + (290 - red / 2) * (x - red) / (width - 1 - red)
+        full = colorsys.hsv_to_rgb(hue / 360, 1, 1)
         for y in range(rows):
             t = 2 * (y + 1) / (rows + 1)        # 0: white, 1: the full colour, 2: black
             put[x, white + y] = tuple(round(255 * (c * t + 1 - t if t < 1 else c * (2 - t))) for c in full) + (255,)
@@ -141,4 +143,5 @@ def main(wanted):
             picture(fields[0], int(fields[1]), int(fields[2]), fields[3])
 
 
-main(set(sys.argv[1:]))
+if __name__ == "__main__":
+    main(set(sys.argv[1:]))

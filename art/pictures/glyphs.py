@@ -185,10 +185,9 @@ def glyphs():
     g.fig(rect(1, 15, 5, 19), RED).fig(rect(15, 1, 19, 5), RED)
     yield g
 
-    for name, s, colour in (("rechthoek", rect(2, 4, 18, 16), RED), ("cirkel", oval(2, 2, 18, 18), SUN),
-                            ("ellips", oval(1, 5, 19, 15), BLUE)):
+    for name, s in (("rechthoek", rect(2, 4, 18, 16)), ("cirkel", oval(2, 2, 18, 18)), ("ellips", oval(1, 5, 19, 15))):
         yield Glyph(name).put(s - (s - edge(s) - edge(s - edge(s))), INK)
-        g = Glyph(name + "gevuld").fig(s, colour)
+        g = Glyph(name + "gevuld").fig(s, BLUE)
         yield g
 
     g = Glyph("opvullen")
@@ -218,23 +217,18 @@ def glyphs():
     yield g.ring(a, BLUE)
 
     g = Glyph("spuitbus")
-    g.fig(rect(9, 8, 18, 20), RED)
-    g.put(line(11, 9, 11, 19), blend(RED, PAPER, .6)).put(line(17, 9, 17, 19), blend(RED, INK, .3))
-    g.put(rect(10, 12, 17, 16), PAPER)
-    g.put(grid(STAR7, 11, 11) & rect(10, 12, 17, 16), PAPER)
-    g.put(oval(12, 12, 15, 15), SUN)
-    g.fig(poly((9, 8), (11, 6), (16, 6), (18, 8)), STONE)
-    g.fig(rect(11, 2, 16, 6), PAPER)
-    g.put(line(11, 4, 11, 4), BLUE)
-    g.put({(9, 4), (7, 4), (7, 2), (5, 3), (5, 5), (7, 6), (3, 1), (3, 4), (4, 7), (1, 2), (1, 5), (2, 7), (5, 0), (6, 8),
-           (1, 9), (3, 9), (0, 0), (0, 7), (2, 11)}, BLUE)
+    g.fig(rect(10, 9, 19, 20), BLUE)
+    g.put(line(12, 10, 12, 19), blend(BLUE, PAPER, .55)).put(line(17, 10, 17, 19) | line(18, 10, 18, 19), blend(BLUE, INK, .35))
+    g.fig(poly((10, 9), (12, 6), (17, 6), (19, 9)), STONE).put(line(12, 8, 13, 8), PAPER)
+    g.fig(rect(12, 1, 17, 6), SUN).put(rect(12, 3, 13, 4), INK)
+    g.put({(x + i, y + j) for x, y in ((9, 3), (6, 1), (6, 5), (3, 0), (3, 3), (3, 7), (0, 1), (0, 5), (0, 9), (6, 9), (3, 11))
+           for i in (0, 1) for j in (0, 1)}, BLUE)
     yield g
 
     g = Glyph("art")
-    for end, bend, colour in (((2, 1), (0, 9), RED), ((7, 1), (3, 8), ORANGE), ((12, 2), (6, 8), SUN), ((16, 5), (8, 10), GRASS),
-                              ((18, 10), (10, 12), BLUE), ((19, 15), (10, 16), PURPLE)):
-        g.put(fat(curve((2, 18), bend, end)), colour)
-    g.put(rect(1, 17, 3, 19) | {(4, 18), (0, 18), (2, 16), (2, 20)}, INK)
+    for end, bend in (((2, 1), (0, 9)), ((8, 1), (3, 8)), ((14, 2), (6, 8)), ((18, 6), (8, 10)), ((19, 12), (10, 13)), ((19, 18), (10, 18))):
+        g.put(fat(curve((2, 17), bend, end)), PURPLE)
+    g.fig(rect(0, 15, 5, 20), SUN)
     yield g
 
     g = Glyph("gom")
@@ -243,13 +237,18 @@ def glyphs():
     yield g
 
     g = Glyph("clear")
-    sheet(g, 3, 1, 17, 19)
-    cross = {(x + i, y) for x, y in line(5, 5, 15, 15) | line(15, 5, 5, 15) for i in (-1, 0, 1)}
-    g.ring(cross, RED)
+    sheet(g, 1, 0, 15, 17)
+    for y, end in ((3, 9), (4, 9), (6, 13), (7, 13), (9, 7), (10, 7)):
+        g.put(line(3, y, end, y), PURPLE)
+    g.put({(9, 5), (10, 5), (3, 8), (4, 8)}, PURPLE)
+    g.fig(poly((6, 14), (13, 9), (15, 9), (19, 13), (19, 15), (12, 20), (10, 20), (6, 16)), SUN)
+    g.put(line(7, 16, 10, 19) | line(11, 19, 18, 14), ORANGE)
+    g.put({(11, 12), (12, 12), (15, 12), (14, 15), (15, 15), (10, 15), (9, 14)}, ORANGE)
     yield g
 
     g = Glyph("nieuw")
     sheet(g, 3, 1, 17, 19, 5)
+    g.put(line(5, 3, 5, 8) | line(6, 3, 9, 3), SKY)
     yield g
 
     g = Glyph("openbestand")
@@ -286,19 +285,17 @@ def glyphs():
     yield g
 
     g = Glyph("copy")
-    sheet(g, 1, 1, 12, 14, 3)
-    g.put(line(3, 6, 10, 6) | line(3, 9, 10, 9), STONE)
-    sheet(g, 8, 6, 19, 19, 3)
-    g.put(line(10, 11, 17, 11) | line(10, 13, 17, 13) | line(10, 15, 17, 15) | line(10, 17, 15, 17), BLUE)
+    for x, y in ((0, 0), (8, 7)):
+        sheet(g, x, y, x + 12, y + 13, 3)
+        g.put(move(grid(STAR7), x + 3, y + 4), RED)
     yield g
 
     g = Glyph("plakken")
-    g.fig(rect(1, 3, 14, 19), WOOD)
-    g.fig(rect(3, 5, 12, 17), PAPER)
-    g.fig(rect(4, 2, 11, 6), STONE)
-    g.fig(rect(6, 0, 9, 3), STONE)
-    sheet(g, 8, 8, 19, 20, 3)
-    g.put(line(10, 12, 17, 12) | line(10, 14, 17, 14) | line(10, 16, 17, 16) | line(10, 18, 15, 18), BLUE)
+    g.fig(rect(1, 3, 19, 20), WOOD)
+    g.fig(rect(4, 6, 16, 18), PAPER)
+    g.fig(rect(5, 2, 15, 6), STONE).put(line(6, 3, 14, 3), PAPER)
+    g.fig(rect(8, 0, 12, 3), STONE)
+    g.put(move(grid(STAR7), 7, 9), RED)
     yield g
 
     yield Glyph("undo").fig(arrow_back(), SUN)
@@ -313,9 +310,11 @@ def glyphs():
     yield g
 
     g = Glyph("formaat")
-    sheet(g, 0, 0, 13, 13)
-    arrow = line(17, 0, 17, 13) | rect(16, 1, 18, 1) | rect(15, 2, 19, 2) | rect(16, 12, 18, 12) | rect(15, 11, 19, 11)
-    g.put(arrow | turn(arrow), RED)
+    g.put({p for p in edge(rect(0, 0, 20, 20)) if sum(p) % 4 < 2}, INK)
+    g.fig(rect(0, 10, 10, 20), SKY)
+    g.put(rect(1, 17, 9, 19) | poly((1, 17), (4, 14), (7, 17)), GRASS).put(rect(6, 12, 8, 14), SUN)
+    arrow = {(x + i, y) for x, y in line(7, 13, 15, 5) for i in (0, 1)}
+    g.ring(arrow | poly((11, 3), (17, 3), (17, 9)), RED)
     yield g
 
     axis = {(x, 10) for x in range(0, 21) if x % 4 != 3}
@@ -334,13 +333,19 @@ def glyphs():
 
     # ---- buttons that open a panel: on light blue
     g = Glyph("lijnen", ground=PANEL)
-    g.put(rect(3, 2, 17, 2) | rect(3, 5, 17, 6) | rect(3, 9, 17, 11) | rect(3, 14, 17, 18), INK)
+    for x0, y0, x1, y1, half in ((1, 7, 7, 1, .6), (2, 14, 14, 2, 1.3), (7, 17, 17, 7, 2.9)):
+        g.put({(x, y) for x in range(21) for y in range(21)
+               for t in [max(0, min(1, ((x - x0) * (x1 - x0) + (y - y0) * (y1 - y0)) / ((x1 - x0) ** 2 + (y1 - y0) ** 2)))]
+               if math.hypot(x - x0 - t * (x1 - x0), y - y0 - t * (y1 - y0)) <= half}, INK)
     yield g
 
     g = Glyph("gommen", ground=PANEL)
-    rubber(g, 0, -5)
-    g.put(line(1, 16, 19, 16) | line(1, 19, 19, 19), INK)
-    g.fig(rect(4, 15, 6, 17), SUN).fig(rect(12, 18, 14, 20), RED)
+    for x, y, wide, high in ((1, 15, 4, 4), (1, 1, 8, 8), (8, 8, 11, 11)):
+        g.fig(rect(x, y, x + wide, y + high), PINK)
+        half = x + wide * 2 // 5
+        g.put(rect(half, y + 1, x + wide - 1, y + high - 1), BLUE)
+        if wide > 4:
+            g.put(line(half, y, half, y + high), INK).put(line(half + 2, y + 2, x + wide - 2, y + 2), blend(BLUE, PAPER, .5))
     yield g
 
     g = Glyph("lineaal", ground=PANEL)
@@ -394,11 +399,9 @@ def glyphs():
     yield g
 
     g = Glyph("roteren", ground=PANEL)
-    s = {(x, y) for x, y in oval(2, 3, 18, 19) - oval(4, 5, 16, 17) if not (x > 11 and y < 9)}
-    s |= rect(11, 1, 11, 6) | rect(12, 2, 12, 5) | rect(13, 3, 13, 4)
-    g.ring(s, RED)
-    g.fig(rect(7, 8, 13, 14), SKY)
-    g.put(rect(8, 12, 12, 13) | line(9, 11, 10, 11), GRASS).put(rect(11, 9, 12, 10), SUN)
+    g.fig(poly((10, 5), (15, 10), (10, 15), (5, 10)), SUN)
+    one = {(x, y) for x, y in oval(0, 0, 20, 20) - oval(3, 3, 17, 17) if x > 9 and y < 9} | poly((13, 8), (20, 8), (17, 12))
+    g.fig(one, RED).fig({(20 - x, 20 - y) for x, y in one}, RED)
     yield g
 
     # ---- the text dialogue
@@ -428,14 +431,15 @@ def glyphs():
 def icons():
     """The icon where the large drawing would blur."""
     g = Glyph("pictogram16", 16)
-    g.put(path((1, 15), (2, 14), (3, 14), (4, 15), (6, 15), (7, 14), (8, 14), (9, 15), (11, 15), (12, 14), (13, 14), (14, 15)), RED)
-    body = poly((1, 13), (2, 9), (9, 2), (11, 1), (12, 1), (14, 3), (14, 4), (13, 6), (6, 13))
+    g.put(path((4, 15), (5, 14), (6, 14), (7, 15), (9, 15), (10, 14), (11, 14), (12, 15), (14, 15)), RED)
+    body = poly((0, 15), (1, 10), (10, 1), (12, 1), (14, 3), (14, 5), (5, 14))
+    g.put(near(body), PAPER)
     g.fig(body, SUN)
     inner = body - edge(body)
-    g.put({(x, y) for x, y in inner if x + y > 16}, ORANGE).put({(x, y) for x, y in inner if x - y > 5}, PINK)
-    g.put({(x, y) for x, y in inner if x - y == 5}, INK)
-    g.put({(x, y) for x, y in inner if x - y < -5}, SAND).put({(2, 12), (2, 11), (3, 12)}, INK)
-    g.put({(6, 6), (6, 7), (9, 6), (9, 7), (7, 9), (8, 9)}, INK)
+    g.put({(x, y) for x, y in inner if x + y > 16}, ORANGE).put({(x, y) for x, y in inner if x - y > 6}, PINK)
+    g.put({(x, y) for x, y in inner if x - y == 6}, INK)
+    g.put({(x, y) for x, y in inner if x - y < -7}, SAND).put({(1, 13), (1, 14), (2, 14)}, INK)
+    g.put({(5, 8), (5, 9), (8, 8), (8, 9)}, INK).put({(4, 9), (6, 8), (6, 9), (7, 9), (7, 8), (7, 7), (6, 7), (9, 7), (5, 7), (8, 7), (6, 10), (7, 10), (5, 10)}, SUN)
     yield g
 
     g = Glyph("pictogram24", 24)
@@ -486,8 +490,9 @@ def stamps():
     yield stamp({(-y, x) for x, y in up})
     yield stamp(path((-5, 5), (5, -2), (-5, -2), (5, 5), (0, -5), (-5, 5)))
     yield stamp({(x, y) for x in range(-5, 6) for y in range(-5, 6) if abs(x) + abs(y) <= 5})
-    yield stamp(line(-9, 2, -2, -6) | line(2, -9, 4, 1) | line(-6, 7, 3, 5) | line(6, -4, 10, 4) | line(5, 10, 9, 7)
-                | line(-10, -8, -6, -3))
+    sticks = (line(-9, 2, -2, -6) | line(2, -9, 4, 1) | line(-6, 7, 3, 5) | line(6, -4, 10, 4) | line(5, 10, 9, 7)
+              | line(-10, -8, -6, -3))
+    yield stamp(sticks | move(sticks, 1, 0))
 
 
 if __name__ == "__main__":
