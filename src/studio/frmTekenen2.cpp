@@ -3,6 +3,9 @@
 
 #include <array>
 
+#include "effects/frmRoteren.h"
+#include "effects/frmVervangKleur.h"
+#include "effects/frmZoom.h"
 #include "info/frmHelp2.h"
 #include "shell/frmStart.h"
 #include "studio/frmLineaalH.h"
@@ -63,9 +66,11 @@ frmTekenen2::frmTekenen2() {
   // Leaving by the close box is leaving: the rulers go too, and the menu comes back.
   CloseBox = [this] { cmdEinde_Click(); };
   LogOut = [this] { askToSave(); };
+  SaveSheet = [this] { cmdSaveAs_Click(); };
   wireTools();
   wireSheet();
   wireRest();
+  wireEffects();
 }
 
 void frmTekenen2::wireTools() {
@@ -140,6 +145,26 @@ void frmTekenen2::wireRest() {
   cmdEinde.Click = [this] { cmdEinde_Click(); };
 }
 
+void frmTekenen2::wireEffects() {
+  cmdVervagen.Click = [this] { cmdVervagen_Click(); };
+  cmdVerscherpen.Click = [this] { cmdVerscherpen_Click(); };
+  cmdRelief.Click = [this] { cmdRelief_Click(); };
+  cmdVerspreiden.Click = [this] { cmdVerspreiden_Click(); };
+  cmdOmkeren.Click = [this] { cmdOmkeren_Click(); };
+  cmdHelderheid.Click = [this] { cmdHelderheid_Click(); };
+  cmdHamerslag.Click = [this] { cmdHamerslag_Click(); };
+  cmdZaagrand.Click = [this] { cmdZaagrand_Click(); };
+  cmdGrijswaarden.Click = [this] { cmdGrijswaarden_Click(); };
+  cmdVervangKleur.Click = [this] { cmdVervangKleur_Click(); };
+  Timer2.Timer = [this] { Timer2_Timer(); };
+  cmdGradient2.MouseDown = [this](const Mouse& at) { cmdGradient2_MouseDown(at); };
+  cmdGradient2.Click = [this] { cmdGradient2_Click(); };
+  cmdSpiegelH.Click = [this] { cmdSpiegelH_Click(); };
+  cmdSpiegelV.Click = [this] { cmdSpiegelV_Click(); };
+  cmdRoteren.Click = [this] { cmdRoteren_Click(); };
+  cmdZoom.Click = [this] { cmdZoom_Click(); };
+}
+
 void frmTekenen2::Form_Load() { startAnew(Background::White); }
 
 void frmTekenen2::startAnew(Background background) {
@@ -157,6 +182,9 @@ void frmTekenen2::startAnew(Background background) {
   SetProgressMax();
   Timer2.Enabled = false;
   Timer2.Interval = 100;
+  // A sheet that is wiped while the bar still runs keeps none of it.
+  ProgressBar1.Visible = false;
+  ProgressCount = 0;
   picUndo.Picture = picBlad.Image();
   cmdRedo.Enabled = false;
   LoadCommandLine();
@@ -229,9 +257,12 @@ void frmTekenen2::Command1_Click() {
 }
 
 void frmTekenen2::cmdEinde_Click() {
-  Unload(the<frmLineaalH>());
-  Unload(the<frmLineaalV>());
+  unloadAll<frmRoteren>();
+  unloadAll<frmLineaalH>();
+  unloadAll<frmLineaalV>();
   unloadAll<frmTekst>();
+  unloadAll<frmZoom>();
+  unloadAll<frmVervangKleur>();
   the<frmStart>().Show();
   Unload(*this);
 }

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstdint>
+#include <string>
 
 #include "studio/frmTekenen2_controls.h"
 #include "studio/kunstlijn.h"
@@ -74,6 +75,36 @@ class frmTekenen2 : public frmTekenen2_controls {
   void cmdCopy_Click();
   void cmdPlakken_Click();
 
+  // effects/effecten.cpp: the effects panel and the progress that follows an effect
+  void announceEffect(const std::string& name);
+  void FinishEffect();
+  void loading();
+  /// Puts pixels of the sheet's size in place of its own; its Picture stays.
+  void replacePixels(raster::Bitmap pixels);
+  void cmdVervagen_Click();
+  void cmdVerscherpen_Click();
+  void cmdRelief_Click();
+  void cmdVerspreiden_Click();
+  void cmdOmkeren_Click();
+  void cmdHelderheid_Click();
+  void cmdHamerslag_Click();
+  void cmdZaagrand_Click();
+  void cmdGrijswaarden_Click();
+  void cmdVervangKleur_Click();
+  void Timer2_Timer();
+
+  // effects/overgang.cpp: the gradient panel
+  void cmdGradient2_MouseDown(const Mouse& at);
+  void cmdGradient2_Click();
+
+  // effects/spiegelen.cpp: mirroring, and the dialog that turns
+  void cmdSpiegelH_Click();
+  void cmdSpiegelV_Click();
+  void cmdRoteren_Click();
+
+  // effects/zoomen.cpp: the magnifier
+  void cmdZoom_Click();
+
   // text/placing.cpp: a place for a text
   bool askForText(const Mouse& at);
 
@@ -91,6 +122,7 @@ class frmTekenen2 : public frmTekenen2_controls {
   void wireTools();
   void wireSheet();
   void wireRest();
+  void wireEffects();
 
   // tools.cpp
   void chooseTool(std::int16_t tool);
@@ -128,6 +160,11 @@ class frmTekenen2 : public frmTekenen2_controls {
   // eraser.cpp
   void takeEraser();
 
+  // effects
+  void beginEffect(const std::string& name);
+  void mirror(bool leftToRight);
+  void feedMagnifier(const Mouse& at);
+
   // files/large_studio.cpp
   void askToSave();
 
@@ -161,5 +198,5 @@ class frmTekenen2 : public frmTekenen2_controls {
   float Teller = 0;
   float BeginBlauw = 0;
 
-  std::int16_t ProgressMax = 0;
+  std::int16_t ProgressMax = 0, ProgressCount = 0;
 };

@@ -8,6 +8,7 @@ frmTekenen2_controls::frmTekenen2_controls()
   ForeColor = 0x404040;
   picBlad.AccessibleName = "tekenblad";
   cboStijl.AccessibleName = "Lijnstijl";
+  cboGradient.AccessibleName = "richting van de overgang";
   Command1.AccessibleName = "Help";
   // The captions draw the hatches; these say them.
   static constexpr const char* hatches[] = {
@@ -35,6 +36,13 @@ CommandButton::Design frmTekenen2_controls::panelTool(float left, float top, con
                                                       const char* tip) {
   CommandButton::Design design = tool(left, top, picture, tip);
   design.BackColor = PanelButton;
+  return design;
+}
+
+CommandButton::Design frmTekenen2_controls::unoffered(const char* tip) {
+  CommandButton::Design design = tool(120, 300, "", tip);
+  design.Enabled = false;
+  design.Visible = false;
   return design;
 }
 

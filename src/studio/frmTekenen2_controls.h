@@ -15,6 +15,7 @@ class frmTekenen2_controls : public surface::Form {
                                     const char* key = "");
   static CommandButton::Design panelTool(float left, float top, const char* picture,
                                          const char* tip);
+  static CommandButton::Design unoffered(const char* tip);
   static Frame::Design panel(float height, const char* caption);
   static PictureBox::Design sheetSized(surface::ScaleUnit scale, bool autoRedraw);
   static PictureBox::Design small(float left, float top, float size, bool autoRedraw,
@@ -191,6 +192,21 @@ class frmTekenen2_controls : public surface::Form {
                        .Height = 375,
                        .ToolTipText = "kleur achtergrond rechts / onder",
                        .BackColor = 0x0000FF}};
+  ComboBox cboGradient{fraGradient,
+                       {.Left = 120,
+                        .Top = 720,
+                        .Width = 1575,
+                        .List = {"Verticaal", "Horizontaal"},
+                        .ListIndex = 0,
+                        .ToolTipText = "kies verticale of horizontale overgang"}};
+  CommandButton cmdGradient2{fraGradient,
+                             {.Left = 240,
+                              .Top = 1170,
+                              .Width = 1335,
+                              .Height = 375,
+                              .Caption = "UITVOEREN",
+                              .ToolTipText = "UITVOEREN OVERGANG",
+                              .BackColor = PanelButton}};
 
   Frame fraLineaal{*this, panel(1695, "LINEAAL")};
   OptionButton Option1{fraLineaal, choice(300, "verticaal")};
@@ -199,6 +215,19 @@ class frmTekenen2_controls : public surface::Form {
   OptionButton Option3{fraLineaal, choice(1290, "GEEN", true)};
 
   Frame fraEffecten{*this, panel(1335, "EFFECTEN")};
+  CommandButton cmdVervagen{fraEffecten, panelTool(120, 300, "vervagen", "VERVAGEN")};
+  CommandButton cmdRelief{fraEffecten, panelTool(525, 300, "relief", "GRIJS RELIEF")};
+  CommandButton cmdVerspreiden{fraEffecten, panelTool(930, 300, "verspreiden", "VERSPREIDEN")};
+  CommandButton cmdOmkeren{fraEffecten, panelTool(1335, 300, "omkeren", "KLEUREN OMKEREN")};
+  CommandButton cmdHelderheid{fraEffecten,
+                              panelTool(120, 780, "helderheid", "HELDERHEID VERANDEREN")};
+  CommandButton cmdHamerslag{fraEffecten, panelTool(525, 780, "hamerslag", "HAMERSLAG")};
+  CommandButton cmdZaagrand{fraEffecten, panelTool(930, 780, "zaagrand", "ZAAGRAND")};
+  CommandButton cmdVervangKleur{fraEffecten,
+                                panelTool(1335, 780, "vervangkleur", "KLEUREN VERVANGEN")};
+  // No panel offers these two.
+  CommandButton cmdGrijswaarden{fraEffecten, unoffered("GRIJSWAARDEN")};
+  CommandButton cmdVerscherpen{fraEffecten, unoffered("VERSCHERPEN")};
 
   Frame fraGommen{*this, panel(1455, "GOMMEN")};
   Label Label7{fraGommen,

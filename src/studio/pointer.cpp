@@ -4,7 +4,9 @@
 #include <algorithm>
 #include <cmath>
 
+#include "effects/frmZoom.h"
 #include "studio/frmTekenen2.h"
+#include "studio/modTekenen.h"
 
 using namespace surface;
 
@@ -37,6 +39,8 @@ void frmTekenen2::picBlad_MouseDown(const Mouse& at) {
     default:
       break;
   }
+  // The first press on the sheet takes the magnifier away.
+  unloadAll<frmZoom>();
   // Last, so that what the press has drawn is in the snapshot.
   UndoBuffer();
   RedoBuffer();
@@ -54,6 +58,7 @@ void frmTekenen2::picBlad_MouseMove(const Mouse& at) {
   setBrush(Gereedschap == 13);
   if (at.Button == 1 && Gereedschap == 20) StampAt(at.X, at.Y);
   followLineStyle(at);
+  if (ZoomOpen) feedMagnifier(at);
 }
 
 void frmTekenen2::picBlad_MouseUp(const Mouse& at) {

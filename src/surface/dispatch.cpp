@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "surface/errors.h"
+#include "surface/form.h"
 #include "surface/host.h"
 
 namespace surface {
@@ -23,10 +24,26 @@ void finishProgram() {
   if (host().leaveEventLoop) host().leaveEventLoop();
 }
 
+// The report, and before the program ends the drawings that are at stake, each by its form's own
+// way of saving.
+void reportAndRescue(const std::string& text) {
+  std::vector<Form*> atStake = formsWithDrawing();
+  std::erase_if(atStake, [](const Form* form) { return !form->SaveSheet.handled(); });
+  if (atStake.empty() || !host().errorReportBeforeLoss) {
+    if (host().errorReport) host().errorReport(text, true);
+  } else if (host().errorReportBeforeLoss(text)) {
+    for (Form* form : atStake) form->SaveSheet();
+  }
+}
+
 void failProgram(const std::string& text) {
   // From here on no other handler runs, although the report lets the toolkit's events in.
   hasEnded = true;
-  if (host().errorReport) host().errorReport(text, true);
+  try {
+    reportAndRescue(text);
+  } catch (const std::exception&) {
+    // A drawing that cannot be saved any more is lost; the program still ends in good order.
+  }
   finishProgram();
 }
 

@@ -120,6 +120,8 @@ class Form : public DrawingSurface {
   Event<> CloseBox;
   /// The desktop logs out while the Sheet holds a drawing: the form asks whether to save it.
   Event<> LogOut;
+  /// An error ends the program, and the child wants the Sheet saved first.
+  Event<> SaveSheet;
 
   /// The first stop of the Tab key, which has the focus when the window opens; without one it is
   /// the first control. The others follow as they are declared.

@@ -53,6 +53,9 @@ struct Host {
   std::function<void()> timersChanged;   ///< the time of the next tick may have changed
   /// An error that no handler trapped; `ends` tells whether the program stops with it.
   std::function<void(const std::string& text, bool ends)> errorReport;
+  /// The same before the program stops with a drawing at stake: it offers to save it, and gives
+  /// true if that is wanted.
+  std::function<bool(const std::string& text)> errorReportBeforeLoss;
   std::function<void()> leaveEventLoop;
 };
 

@@ -7,6 +7,9 @@
 
 #include "course/frmCursus.h"
 #include "course/frmTekenen3.h"
+#include "effects/frmRoteren.h"
+#include "effects/frmVervangKleur.h"
+#include "effects/frmZoom.h"
 #include "info/frmGebruik.h"
 #include "info/frmHelp1.h"
 #include "info/frmHelp2.h"
@@ -63,6 +66,9 @@ const Opening Screens[] = {{"frmCursus", opened<frmCursus>},
                            {"frmTekenen3", opened<frmTekenen3>},
                            {"frmEinde", opened<frmEinde>},
                            {"frmIntro", opened<frmIntro>},
+                           {"frmRoteren", opened<frmRoteren>},
+                           {"frmVervangKleur", openedDefault<frmVervangKleur>},
+                           {"frmZoom", openedDefault<frmZoom>},
                            {"frmLineaalH", opened<frmLineaalH>},
                            {"frmLineaalV", opened<frmLineaalV>},
                            {"frmStart", openedDefault<frmStart>},

@@ -7,11 +7,15 @@
 #include <fstream>
 #include <random>
 
+#include "effects/frmRoteren.h"
+#include "effects/frmVervangKleur.h"
+#include "effects/frmZoom.h"
 #include "shell/frmStart.h"
 #include "studio/frmLineaalH.h"
 #include "studio/frmLineaalV.h"
 #include "studio/frmTekenen2.h"
 #include "support/script.h"
+#include "surface/app.h"
 #include "surface/host.h"
 #include "text/frmTekst.h"
 
@@ -60,6 +64,7 @@ class Monkey : public script::Stage, public testing::WithParamInterface<unsigned
     std::filesystem::create_directories(folder() + "/map");
     std::ofstream(folder() + "/tekst.bmp") << "dit is geen plaatje";
     std::ofstream(folder() + "/leeg.bmp");
+    app().Path = folder();
     answerAtRandom();
     the<frmStart>().Show();
     click(the<frmStart>().cmdTekenen2);
@@ -102,6 +107,8 @@ class Monkey : public script::Stage, public testing::WithParamInterface<unsigned
   void clickPanelContents();
   void moveSlider();
   void pickRow();
+  void useEffectDialog();
+  bool endsTheProgram(const Control& control);
   void dragOnPalette();
   void useATextForm();
   void letTimePass();
@@ -121,6 +128,7 @@ const std::array<Monkey::Action, 13> Monkey::Actions = {
      {14, "a click within a panel", &Monkey::clickPanelContents},
      {6, "a slider", &Monkey::moveSlider},
      {4, "a row of the list", &Monkey::pickRow},
+     {8, "a dialog of the effects", &Monkey::useEffectDialog},
      {8, "a drag on the palette", &Monkey::dragOnPalette},
      {4, "a text form", &Monkey::useATextForm},
      {2, "time", &Monkey::letTimePass},
@@ -212,6 +220,7 @@ void Monkey::clickAnything() {
   Control& control = *controls[static_cast<std::size_t>(upTo(static_cast<int>(controls.size())))];
   // Leaving is one of fifty buttons; half as often is enough.
   if (&control == &studio().cmdEinde && oneIn(2)) return;
+  if (endsTheProgram(control)) return;
   if (oneIn(40)) clipboard = {};
   if (oneIn(40))
     clipboard = Picture(std::make_shared<raster::Bitmap>(1 + upTo(900), 1 + upTo(900),
@@ -230,7 +239,8 @@ void Monkey::clickPanelContents() {
     click(*oneOf(panels));
     return;
   }
-  click(*inside[static_cast<std::size_t>(upTo(static_cast<int>(inside.size())))]);
+  Control& control = *inside[static_cast<std::size_t>(upTo(static_cast<int>(inside.size())))];
+  if (!endsTheProgram(control)) click(control, oneIn(8) ? 2 : 1);
 }
 
 void Monkey::moveSlider() {
@@ -240,6 +250,41 @@ void Monkey::moveSlider() {
   Slider& slider = *sliders[static_cast<std::size_t>(upTo(static_cast<int>(sliders.size())))];
   auto* knob = qobject_cast<QSlider*>(script::widgetOf(slider));
   if (knob) knob->setValue(slider.Min + upTo(slider.Max - slider.Min + 10));
+}
+
+// An effect that looks around its pixels ends the program on a sheet beyond its grid, as it is
+// meant to.
+bool Monkey::endsTheProgram(const Control& control) {
+  const bool beyond = sheet().ScaleWidth() > 1501 || sheet().ScaleHeight() > 1501;
+  const Control* const grid[] = {&studio().cmdVervagen, &studio().cmdVerscherpen,
+                                 &studio().cmdRelief, &studio().cmdVerspreiden};
+  return beyond && std::find(std::begin(grid), std::end(grid), &control) != std::end(grid);
+}
+
+void Monkey::useEffectDialog() {
+  std::vector<Form*> dialogs;
+  for (const auto& form : FormRegistry::instance().forms())
+    if (form->shown() &&
+        (dynamic_cast<frmRoteren*>(form.get()) || dynamic_cast<frmZoom*>(form.get()) ||
+         dynamic_cast<frmVervangKleur*>(form.get())))
+      dialogs.push_back(form.get());
+  if (dialogs.empty()) {
+    CommandButton* const ways[] = {&studio().cmdZoom, &studio().cmdRoteren, &studio().cmdEffecten};
+    return click(*oneOf(ways));
+  }
+  Form& dialog = *dialogs[static_cast<std::size_t>(upTo(static_cast<int>(dialogs.size())))];
+  if (oneIn(12)) return closeBox(dialog);
+  std::vector<Control*> controls;
+  collect(dialog, controls);
+  Control& control = *controls[static_cast<std::size_t>(upTo(static_cast<int>(controls.size())))];
+  if (auto* slider = dynamic_cast<Slider*>(&control))
+    qobject_cast<QSlider*>(script::widgetOf(*slider))->setValue(1 + upTo(12));
+  else if (auto* list = dynamic_cast<ComboBox*>(&control))
+    list->picked(upTo(list->ListCount()));
+  else if (dynamic_cast<PictureBox*>(&control))
+    drag(control, upTo(400) - 50, upTo(40), upTo(400) - 50, upTo(40), button());
+  else
+    click(control, button());
 }
 
 void Monkey::pickRow() { studio().cboStijl.picked(upTo(5)); }
@@ -310,6 +355,9 @@ void Monkey::expectWhole() {
   if (!isLoaded<frmTekenen2>()) {
     ASSERT_TRUE(the<frmStart>().shown()) << "no window left after " << last_;
     ASSERT_FALSE(isLoaded<frmLineaalH>() || isLoaded<frmLineaalV>());
+    for (const auto& form : FormRegistry::instance().forms())
+      ASSERT_FALSE(dynamic_cast<frmRoteren*>(form.get())) << "after " << last_;
+    ASSERT_FALSE(isLoaded<frmZoom>() || isLoaded<frmVervangKleur>()) << "after " << last_;
     if (QApplication::activePopupWidget() || QApplication::activeModalWidget())
       printf("POPUP %p %s\n", (void*)QApplication::activePopupWidget(), last_);
     click(the<frmStart>().cmdTekenen2);

@@ -89,6 +89,10 @@ void Stage::installSeams() {
   seams.timersChanged = nullptr;
   seams.leaveEventLoop = nullptr;
   seams.seed = [] { return std::uint64_t{42}; };
+  seams.errorReportBeforeLoss = [this](const std::string& text) {
+    errorReport_ = text;
+    return std::exchange(rescue_, false);
+  };
   seams.errorReport = [this](const std::string& text, bool) { errorReport_ = text; };
   seams.setClipboard = [this](const Picture& picture) { clipboard = picture; };
   seams.getClipboard = [this] { return clipboard; };

@@ -53,6 +53,8 @@ class Stage : public ::testing::Test {
   /// The report of an error, untrapped or survived, if one was shown. A test that expects one takes
   /// it; otherwise it fails the test.
   std::optional<std::string> takeErrorReport();
+  /// The next report that offers to save a drawing is answered with yes, once; otherwise with no.
+  void saveInErrorReport() { rescue_ = true; }
 
   /// The pages that were printed.
   std::vector<std::vector<surface::Printed>> pages;
@@ -92,6 +94,7 @@ class Stage : public ::testing::Test {
   std::deque<bool> printers_;
   std::vector<Asked> asked_;
   std::optional<std::string> errorReport_;
+  bool rescue_ = false;
   std::int64_t now_ = 0;
   std::string folder_;
 };

@@ -226,18 +226,36 @@ std::optional<Color> colorDialog(Color initial, int flags) {
   return toColor(dialog.currentColor().rgb());
 }
 
-void errorReport(const std::string& text, bool ends) {
-  QMessageBox box(owner());
+namespace {
+
+void fillReport(QMessageBox& box, const QString& what, const std::string& text) {
   box.setWindowFlags(DialogFlags);
   keepAbove(box);
   box.setWindowTitle("KRAS PRET");
   box.setIcon(QMessageBox::Critical);
   box.setTextFormat(Qt::PlainText);
-  const QString what = ends ? "Er is een fout opgetreden, het programma stopt:"
-                            : "Er is een fout opgetreden, maar je kunt gewoon verder:";
   box.setText(fitting(what + "\n\n" + QString::fromStdString(text), box.fontMetrics()));
+}
+
+constexpr auto ProgramStops = "Er is een fout opgetreden, het programma stopt:";
+
+}  // namespace
+
+void errorReport(const std::string& text, bool ends) {
+  QMessageBox box(owner());
+  fillReport(box,
+             ends ? ProgramStops : "Er is een fout opgetreden, maar je kunt gewoon verder:", text);
   box.addButton("OK", QMessageBox::AcceptRole);
   box.exec();
+}
+
+bool errorReportBeforeLoss(const std::string& text) {
+  QMessageBox box(owner());
+  fillReport(box, ProgramStops, text);
+  const QPushButton* save = box.addButton("Tekening bewaren", QMessageBox::AcceptRole);
+  box.addButton("Niet bewaren", QMessageBox::RejectRole);
+  box.exec();
+  return box.clickedButton() == save;
 }
 
 // An image that keeps the bitmap alive: a copy of a large sheet would be one too many.

@@ -17,6 +17,7 @@ std::optional<std::string> inputBox(const std::string& prompt, const std::string
 std::optional<std::string> fileDialog(const FileRequest& request);
 std::optional<Color> colorDialog(Color initial, int flags);
 void errorReport(const std::string& text, bool ends);
+bool errorReportBeforeLoss(const std::string& text);
 
 void setClipboard(const Picture& picture);
 Picture getClipboard();

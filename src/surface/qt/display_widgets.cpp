@@ -30,6 +30,20 @@ QPixmap shrunk(const QPixmap& picture, QSize place) {
   return picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
+// Enlarged as squares: column d takes the picture's column floor(d * n / width), and so do the
+// rows.
+QImage enlarged(const QImage& picture, QSize place) {
+  QImage result(place, picture.format());
+  const auto columns = [&](int x) { return x * picture.width() / place.width(); };
+  for (int y = 0; y < place.height(); ++y) {
+    const auto* from =
+        reinterpret_cast<const QRgb*>(picture.constScanLine(y * picture.height() / place.height()));
+    auto* to = reinterpret_cast<QRgb*>(result.scanLine(y));
+    for (int x = 0; x < place.width(); ++x) to[x] = from[columns(x)];
+  }
+  return result;
+}
+
 }  // namespace
 
 LabelWidget::LabelWidget(Label& owner, QWidget& parent) : QLabel(&parent), control(&owner) {
@@ -131,7 +145,11 @@ void ImageWidget::paintEvent(QPaintEvent*) {
   if (!control) return;
   QPainter painter(this);
   const QRect inner = control->Border ? rect().adjusted(2, 2, -2, -2) : rect();
-  painter.drawPixmap(inner, shrunk(picture_, inner.size()));
+  const QPixmap fitting = shrunk(picture_, inner.size());
+  if (fitting.isNull() || fitting.size() == inner.size())
+    painter.drawPixmap(inner, fitting);
+  else
+    painter.drawImage(inner, enlarged(fitting.toImage(), inner.size()));
   if (control->Border) drawClassicEdge(painter, rect(), true);
 }
 

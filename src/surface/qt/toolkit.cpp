@@ -125,6 +125,7 @@ void install() {
   seams.seed = [] { return QRandomGenerator::global()->generate64(); };
   seams.timersChanged = scheduleTimers;
   seams.errorReport = errorReport;
+  seams.errorReportBeforeLoss = errorReportBeforeLoss;
   seams.leaveEventLoop = [] { QCoreApplication::exit(0); };
 }
 

@@ -1,4 +1,5 @@
 // Copying a block at another size, without smoothing: which source pixel a target pixel takes.
+#include <algorithm>
 #include <vector>
 
 #include "surface/raster/ink.h"
@@ -53,11 +54,24 @@ std::vector<int> sources(const Axis& axis, int first, int last, int available, K
   return result;
 }
 
+// A row of a picture that is mirrored and nothing else.
+void mirrorRow(Pixel* __restrict to, const Pixel* __restrict from, int count) {
+  for (int i = 0; i < count; ++i) to[i] = from[count - 1 - i];
+}
+
 void stretchRow(Pixel* to, const Pixel* from, const std::vector<int>& columns) {
   for (const int column : columns) {
     if (column >= 0) *to = from[column];
     ++to;
   }
+}
+
+/// Whether the columns go through the source one by one, forwards (1) or backwards (-1), without
+/// one that is missing.
+bool run(const std::vector<int>& columns, int direction) {
+  for (std::size_t i = 0; i < columns.size(); ++i)
+    if (columns[i] < 0 || columns[i] != columns[0] + direction * static_cast<int>(i)) return false;
+  return true;
 }
 
 }  // namespace
@@ -75,9 +89,16 @@ Rect stretch(Bitmap& target, int x, int y, int width, int height, const Bitmap& 
   if (area.empty()) return {};
   const auto columns = sources(across, area.left, area.right, source.width(), Keeps::Last);
   const auto rows = sources(down, area.top, area.bottom, source.height(), Keeps::First);
+  const bool forwards = run(columns, 1), backwards = run(columns, -1);
   for (int row = area.top; row < area.bottom; ++row) {
     const int from = rows[row - area.top];
-    if (from >= 0) stretchRow(target.row(row) + area.left, source.row(from), columns);
+    if (from < 0) continue;
+    if (forwards)
+      std::copy_n(source.row(from) + columns.front(), area.width(), target.row(row) + area.left);
+    else if (backwards)
+      mirrorRow(target.row(row) + area.left, source.row(from) + columns.back(), area.width());
+    else
+      stretchRow(target.row(row) + area.left, source.row(from), columns);
   }
   return area;
 }
