@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
-#include <cstdlib>
 #include <vector>
 
 #include "effects/wide.h"
@@ -82,16 +81,18 @@ void sharpen(const Bitmap& from, Bitmap& to) {
 WIDE_VERSIONS
 void emboss(const Bitmap& from, Bitmap& to) {
   const Inner inner(from);
+  // Keeps the pixels opaque.
+  const std::vector<Pixel> opaque(static_cast<std::size_t>(from.width()), 0xFF000000);
+  const Byte* __restrict mask = reinterpret_cast<const Byte*>(opaque.data());
   for (int y = 1; y < from.height() - 1; ++y) {
     const Byte* __restrict here = bytesOf(from, y);
     const Byte* __restrict lowerRight = bytesOf(from, y + 1) + PixelBytes;
     Byte* __restrict result = bytesOf(to, y);
     for (int i = inner.first; i < inner.last; ++i) {
-      const auto slope = static_cast<std::int16_t>(std::abs(here[i] - lowerRight[i] + 128));
-      result[i] = static_cast<Byte>(std::min<std::int16_t>(slope, 255));
+      const auto slope = static_cast<std::int16_t>(here[i] - lowerRight[i] + 128);
+      const auto steep = static_cast<std::int16_t>(slope < 0 ? -slope : slope);
+      result[i] = static_cast<Byte>(std::min<std::int16_t>(steep, 255) | mask[i]);
     }
-    Pixel* __restrict pixels = to.row(y);
-    for (int x = 1; x < from.width() - 1; ++x) pixels[x] |= 0xFF000000;
   }
 }
 

@@ -3,10 +3,11 @@
 #include "effects/rotation.h"
 
 #include <algorithm>
-#include <bit>
+#include <array>
 #include <cmath>
 #include <cstdint>
-#include <vector>
+#include <type_traits>
+#include <utility>
 
 #include "effects/wide.h"
 #include "surface/numbers.h"
@@ -45,32 +46,61 @@ inline bool isUnsure(float value, float whole, float error) {
 // From here on single precision does not hold the squares any more.
 constexpr int QuickLimit = 2800;
 
-// The source points of target points in a row: place 0..count-1 stands for (i, fixed), or for
-// (fixed, i) if `swapped`.
+// The target is painted in blocks, so that the source points of a block lie close together,
+// whatever the angle.
+constexpr int BlockSide = 64;
+
+// Source points for target points in a row, from the source's middle: where they lie, and how far
+// on in its memory.
+struct Points {
+  std::array<std::int32_t, BlockSide> X, Y, distance;
+
+  void set(std::size_t at, int x, int y, int width) {
+    X[at] = x;
+    Y[at] = y;
+    distance[at] = y * width + x;
+  }
+};
+
+// The places first..first+count-1 of a row: the points (i, fixed), and the points (fixed, i) turned
+// by a quarter more.
+struct Piece {
+  int fixed, first, count;
+  Points straight, swapped;
+  std::array<std::int32_t, BlockSide> unsure;
+};
+
+// Fills a piece in single precision; true if some of its places are marked as unsure.
 WIDE_VERSIONS
-void quickOffsets(int fixed, bool swapped, int count, float cosine, float sine,
-                  std::int32_t* __restrict P, std::int32_t* __restrict Q,
-                  std::int32_t* __restrict unsure) {
-  const auto other = static_cast<float>(fixed);
-  // (u, v) turned by the angle, in the two cases.
-  const float pMoving = swapped ? -sine : cosine, pFixed = (swapped ? cosine : -sine) * other;
-  const float qMoving = swapped ? cosine : sine, qFixed = (swapped ? sine : cosine) * other;
-  for (int i = 0; i < count; ++i) {
-    const auto moving = static_cast<float>(i);
+bool findQuickly(Piece& piece, float cosine, float sine, int width) {
+  const auto f = static_cast<float>(piece.fixed);
+  std::int32_t any = 0;
+  for (int i = 0; i < piece.count; ++i) {
+    const auto m = static_cast<float>(piece.first + i);
     // The middle itself has no direction; it is never asked for.
-    const float distance = std::max(std::sqrt(moving * moving + other * other), 0.5f);
+    const float distance = std::max(std::sqrt(m * m + f * f), 0.5f);
     const float r = rounded(distance);
     const float scale = r / distance;
-    const float p = (pMoving * moving + pFixed) * scale;
-    const float q = (qMoving * moving + qFixed) * scale;
-    const float wholeP = rounded(p), wholeQ = rounded(q);
+    const float p = (m * cosine - f * sine) * scale, q = (m * sine + f * cosine) * scale;
+    const float p2 = (f * cosine - m * sine) * scale, q2 = (f * sine + m * cosine) * scale;
+    const float P = rounded(p), Q = rounded(q), P2 = rounded(p2), Q2 = rounded(q2);
     // Ten roundings at most, each of 2^-24 of the distance.
     const float error = distance * 0x1p-20f;
-    P[i] = static_cast<std::int32_t>(wholeP);
-    Q[i] = static_cast<std::int32_t>(wholeQ);
-    unsure[i] =
-        isUnsure(distance, r, error) | isUnsure(p, wholeP, error) | isUnsure(q, wholeQ, error);
+    const std::int32_t unsure = isUnsure(distance, r, error) | isUnsure(p, P, error) |
+                                isUnsure(q, Q, error) | isUnsure(p2, P2, error) |
+                                isUnsure(q2, Q2, error);
+    const auto x = static_cast<std::int32_t>(P), y = static_cast<std::int32_t>(Q);
+    const auto x2 = static_cast<std::int32_t>(Q2), y2 = -static_cast<std::int32_t>(P2);
+    piece.straight.X[i] = x;
+    piece.straight.Y[i] = y;
+    piece.straight.distance[i] = y * width + x;
+    piece.swapped.X[i] = x2;
+    piece.swapped.Y[i] = y2;
+    piece.swapped.distance[i] = y2 * width + x2;
+    piece.unsure[i] = unsure;
+    any |= unsure;
   }
+  return any != 0;
 }
 
 class Rotation {
@@ -79,6 +109,8 @@ class Rotation {
       : source_(source),
         target_(target),
         angle_(angle),
+        cosine_(static_cast<float>(std::cos(double{angle}))),
+        sine_(static_cast<float>(std::sin(double{angle}))),
         sx_(half(source.width())),
         sy_(half(source.height())),
         tx_(half(target.width())),
@@ -86,31 +118,17 @@ class Rotation {
         N_(nearestInt(std::max(target.width(), target.height()) / 2.0 - 1)) {}
 
   void run() {
-    if (N_ < 0) return;
+    if (source_.bounds().empty() || target_.bounds().empty()) return;
     axis();
-    P_.resize(static_cast<std::size_t>(N_) + 1);
-    Q_.resize(P_.size());
-    unsure_.assign(P_.size(), 1);
-    // The quarters lie side by side but for the axis, so each is painted along its rows.
-    for (int fixed = 0; fixed <= N_; ++fixed) {
-      if (isVisible(ty_ + fixed) || isVisible(ty_ - fixed)) {
-        findOffsets(fixed, false);
-        if (isVisible(ty_ + fixed)) paintRow(ty_ + fixed, 1, +1, {+1, 0}, {0, +1});
-        if (isVisible(ty_ - fixed)) paintRow(ty_ - fixed, 1, -1, {-1, 0}, {0, -1});
-      }
-      if (fixed > 0 && (isVisible(ty_ + fixed) || isVisible(ty_ - fixed))) {
-        findOffsets(fixed, true);
-        if (isVisible(ty_ - fixed)) paintRow(ty_ - fixed, 0, +1, {0, +1}, {-1, 0});
-        if (isVisible(ty_ + fixed)) paintRow(ty_ + fixed, 0, -1, {0, -1}, {+1, 0});
-      }
-    }
+    for (int top = 0; top <= N_; top += BlockSide)
+      for (int left = 0; left <= N_; left += BlockSide) paintBlock(left, top);
   }
 
  private:
-  // A source coordinate as a combination of P and Q.
-  struct Mix {
-    int P, Q;
-    int of(Offset o) const { return P * o.P + Q * o.Q; }
+  // Whether the source points of a block all lie on the source, or none, or some.
+  enum class Lies { Inside, Outside, Across };
+  struct Block {
+    Lies straight[2], swapped[2];  // turned by no half turn, and by one
   };
 
   static int half(int size) { return nearestInt(size / 2.0); }
@@ -132,37 +150,110 @@ class Rotation {
     }
   }
 
-  // The offsets of (u, v) = (i, fixed), or (fixed, i) if `swapped`, for i = 0..N.
-  void findOffsets(int fixed, bool swapped) {
-    if (N_ <= QuickLimit)
-      quickOffsets(fixed, swapped, N_ + 1, static_cast<float>(std::cos(double{angle_})),
-                   static_cast<float>(std::sin(double{angle_})), P_.data(), Q_.data(),
-                   unsure_.data());
-    for (int i = 0; i <= N_; ++i) {
-      if (unsure_[static_cast<std::size_t>(i)] == 0) continue;
-      const Offset exact = swapped ? exactOffset(fixed, i, angle_) : exactOffset(i, fixed, angle_);
-      P_[static_cast<std::size_t>(i)] = exact.P;
-      Q_[static_cast<std::size_t>(i)] = exact.Q;
+  // Where the rectangle of the points (x, y) = (a * cos - b * sin, a * sin + b * cos) lies, for a
+  // and b between two corners, and the one turned by half a turn. Rounding moves a point by less
+  // than two pixels.
+  void classify(Lies (&lies)[2], const float (&a)[2], const float (&b)[2]) const {
+    constexpr float Slack = 2;
+    float left = 1e9f, top = 1e9f, right = -1e9f, bottom = -1e9f;
+    for (const float ca : a)
+      for (const float cb : b) {
+        const float x = ca * cosine_ - cb * sine_, y = ca * sine_ + cb * cosine_;
+        left = std::min(left, x - Slack);
+        right = std::max(right, x + Slack);
+        top = std::min(top, y - Slack);
+        bottom = std::max(bottom, y + Slack);
+      }
+    const auto W = static_cast<float>(source_.width()), H = static_cast<float>(source_.height());
+    for (int turn = 0; turn < 2; ++turn) {
+      const auto x = static_cast<float>(sx_), y = static_cast<float>(sy_);
+      if (x + left >= 0 && x + right < W && y + top >= 0 && y + bottom < H)
+        lies[turn] = Lies::Inside;
+      else if (x + right < 0 || x + left >= W || y + bottom < 0 || y + top >= H)
+        lies[turn] = Lies::Outside;
+      else
+        lies[turn] = Lies::Across;
+      left = std::exchange(right, -left) * -1;
+      top = std::exchange(bottom, -top) * -1;
     }
   }
 
-  // Paints the columns tx + direction * i of a row, i = first..N, from the source point that x and
-  // y mix of the offsets.
-  void paintRow(int row, int first, int direction, Mix x, Mix y) {
-    const int last = std::min(N_, direction > 0 ? target_.width() - 1 - tx_ : tx_);
-    Pixel* to = target_.row(row) + tx_ + direction * first;
-    for (int i = first; i <= last; ++i, to += direction) {
-      const Offset o{P_[static_cast<std::size_t>(i)], Q_[static_cast<std::size_t>(i)]};
-      const int fromX = sx_ + x.of(o), fromY = sy_ + y.of(o);
-      if (source_.contains(fromX, fromY)) *to = source_.at(fromX, fromY);
+  // The points of a block with u from 1 on. But for the axes the four quarters lie side by side, so
+  // each is painted along its rows.
+  void paintBlock(int left, int top) {
+    const int right = std::min(left + BlockSide - 1, N_),
+              bottom = std::min(top + BlockSide - 1, N_);
+    const float i[] = {static_cast<float>(left), static_cast<float>(right)};
+    const float f[] = {static_cast<float>(top), static_cast<float>(bottom)};
+    const float minusF[] = {-f[0], -f[1]};
+    Block block;
+    classify(block.straight, i, f);
+    classify(block.swapped, i, minusF);
+    Piece piece;
+    piece.first = left;
+    piece.count = right - left + 1;
+    for (int fixed = top; fixed <= bottom; ++fixed) {
+      if (!isVisible(ty_ + fixed) && !isVisible(ty_ - fixed)) break;
+      piece.fixed = fixed;
+      findPoints(piece);
+      paint(piece, piece.straight, block.straight[0], ty_ + fixed, 1,
+            std::integral_constant<int, 1>{});
+      paint(piece, piece.straight, block.straight[1], ty_ - fixed, 1,
+            std::integral_constant<int, -1>{});
+      if (fixed == 0) continue;
+      paint(piece, piece.swapped, block.swapped[0], ty_ - fixed, 0,
+            std::integral_constant<int, 1>{});
+      paint(piece, piece.swapped, block.swapped[1], ty_ + fixed, 0,
+            std::integral_constant<int, -1>{});
+    }
+  }
+
+  void findPoints(Piece& piece) const {
+    bool unsure = true;
+    if (N_ <= QuickLimit)
+      unsure = findQuickly(piece, cosine_, sine_, source_.width());
+    else
+      piece.unsure.fill(1);
+    if (!unsure) return;
+    for (int i = 0; i < piece.count; ++i) {
+      const auto at = static_cast<std::size_t>(i);
+      if (piece.unsure[at] == 0) continue;
+      const int moving = piece.first + i;
+      const Offset straight = exactOffset(moving, piece.fixed, angle_);
+      const Offset swapped = exactOffset(piece.fixed, moving, angle_);
+      piece.straight.set(at, straight.P, straight.Q, source_.width());
+      piece.swapped.set(at, swapped.Q, -swapped.P, source_.width());
+    }
+  }
+
+  // Paints the columns tx + direction * i of a row, i from `lowest` on; a direction of -1 means
+  // half a turn, for target and source alike.
+  template <int direction>
+  void paint(const Piece& piece, const Points& points, Lies lies, int row, int lowest,
+             std::integral_constant<int, direction>) {
+    if (lies == Lies::Outside || !isVisible(row)) return;
+    const int visible = direction > 0 ? target_.width() - tx_ : tx_ + 1;
+    const int last = std::min(piece.first + piece.count, visible) - piece.first;
+    const int first = std::max(piece.first, lowest) - piece.first;
+    Pixel* const to = target_.row(row) + tx_ + direction * piece.first;
+    const Pixel* const middle = source_.row(sy_) + sx_;
+    if (lies == Lies::Inside) {
+      for (int i = first; i < last; ++i) to[direction * i] = middle[direction * points.distance[i]];
+      return;
+    }
+    const auto W = static_cast<unsigned>(source_.width()),
+               H = static_cast<unsigned>(source_.height());
+    for (int i = first; i < last; ++i) {
+      const auto x = static_cast<unsigned>(sx_ + direction * points.X[i]);
+      const auto y = static_cast<unsigned>(sy_ + direction * points.Y[i]);
+      if (x < W && y < H) to[direction * i] = middle[direction * points.distance[i]];
     }
   }
 
   const Bitmap& source_;
   Bitmap& target_;
-  const float angle_;
+  const float angle_, cosine_, sine_;
   const int sx_, sy_, tx_, ty_, N_;
-  std::vector<std::int32_t> P_, Q_, unsure_;
 };
 
 }  // namespace

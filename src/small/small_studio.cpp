@@ -78,6 +78,7 @@ ImageControl::Design SmallStudioControls::cursor(const char* name) {
 SmallStudio::SmallStudio(const SmallStudioLayout& design) : SmallStudioControls(design) {
   Load = [this] { Form_Load(); };
   LogOut = [this] { askToSave(); };
+  SaveSheet = [this] { cmdSaveAs_Click(); };
   cmdTekenen.Click = [this] { chooseTool(1); };
   cmdLijn.Click = [this] { chooseTool(2); };
   cmdRechthoek.Click = [this] { chooseTool(3); };
