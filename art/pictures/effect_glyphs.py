@@ -5,6 +5,9 @@ from glyphs import (BLUE, GRASS, INK, ORANGE, PAPER, PURPLE, RED, SAND, SEA, STO
                     oval, poly, rect)
 
 
+CORNERS = {(0, 0), (20, 0), (0, 20), (20, 20)}
+
+
 def star(cx, cy, outer, inner, points=5):
     turns = [(i, outer if i % 2 == 0 else inner) for i in range(2 * points)]
     return poly(*((round(cx + r * math.sin(math.pi * i / points)), round(cy - r * math.cos(math.pi * i / points)))
@@ -27,7 +30,7 @@ def glyphs():
     s = star(10, 10, 8, 3.6)
     g.put((move(s, 1, 1) | move(s, 2, 2)) - s, blend(STONE, INK, .55))
     g.put((move(s, -1, -1) | move(s, -1, 0)) - s, PAPER).put(s, blend(STONE, PAPER, .45))
-    yield g
+    yield g.put(CORNERS, None)
 
     # A patch of colour that flies apart.
     g = Glyph("verspreiden")
@@ -47,7 +50,7 @@ def glyphs():
     g.put({(x, y) for x, y in edge(face) if x < 10}, INK).put({(x, y) for x, y in edge(face) if x >= 10}, PAPER)
     g.put(rect(6, 8, 7, 9), INK).put(rect(13, 8, 14, 9), PAPER)
     g.put({(6, 13), (7, 14), (8, 14), (9, 14)}, INK).put({(14, 13), (13, 14), (12, 14), (11, 14), (10, 14)}, PAPER)
-    yield g
+    yield g.put(CORNERS, None)
 
     # The sun with its rays.
     g = Glyph("helderheid")
