@@ -87,7 +87,8 @@ TEST_F(Magnifier, EnlargesPixelsAsSquaresUnderABlackCross) {
   for (const int z : {1, 3, 7, 10}) {
     slide(zoom.Slider1, z);
     move(sheet, 300, 250);
-    const QImage glass = shown(zoom.imgStretch);
+    const raster::Rect place = zoom.imgStretch.pixelPlace();
+    const QImage glass = shown(zoom).copy(place.left, place.top, place.width(), place.height());
     const Bitmap& held = *zoom.imgStretch.Picture->bitmap();
     const int n = held.width();
     int wrong = 0;
