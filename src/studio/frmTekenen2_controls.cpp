@@ -39,8 +39,8 @@ CommandButton::Design frmTekenen2_controls::panelTool(float left, float top, con
   return design;
 }
 
-CommandButton::Design frmTekenen2_controls::unoffered(const char* tip) {
-  CommandButton::Design design = tool(120, 300, "", tip);
+CommandButton::Design frmTekenen2_controls::unoffered(float left, const char* tip) {
+  CommandButton::Design design = tool(left, 8280, "", tip);
   design.Enabled = false;
   design.Visible = false;
   return design;

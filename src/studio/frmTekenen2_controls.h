@@ -15,7 +15,7 @@ class frmTekenen2_controls : public surface::Form {
                                     const char* key = "");
   static CommandButton::Design panelTool(float left, float top, const char* picture,
                                          const char* tip);
-  static CommandButton::Design unoffered(const char* tip);
+  static CommandButton::Design unoffered(float left, const char* tip);
   static Frame::Design panel(float height, const char* caption);
   static PictureBox::Design sheetSized(surface::ScaleUnit scale, bool autoRedraw);
   static PictureBox::Design small(float left, float top, float size, bool autoRedraw,
@@ -226,8 +226,8 @@ class frmTekenen2_controls : public surface::Form {
   CommandButton cmdVervangKleur{fraEffecten,
                                 panelTool(1335, 780, "vervangkleur", "KLEUREN VERVANGEN")};
   // No panel offers these two.
-  CommandButton cmdGrijswaarden{fraEffecten, unoffered("GRIJSWAARDEN")};
-  CommandButton cmdVerscherpen{fraEffecten, unoffered("VERSCHERPEN")};
+  CommandButton cmdGrijswaarden{*this, unoffered(3600, "GRIJSWAARDEN")};
+  CommandButton cmdVerscherpen{*this, unoffered(4080, "VERSCHERPEN")};
 
   Frame fraGommen{*this, panel(1455, "GOMMEN")};
   Label Label7{fraGommen,
