@@ -2,6 +2,7 @@
 #include "effects/frmZoom.h"
 
 #include "studio/modTekenen.h"
+#include "text/frmTekst.h"
 
 using namespace surface;
 
@@ -19,6 +20,7 @@ frmZoom::frmZoom()
 
 void frmZoom::Form_Load() {
   ZoomOpen = -1;
+  KeepOnTop();
   Left = 0;
   Top = 0;
   imgStretch.Width = ScaleX(200, ScalePixels, ScaleTwips);

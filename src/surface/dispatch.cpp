@@ -16,6 +16,8 @@ namespace {
 struct ProgramEnd {};
 
 bool hasEnded = false;
+// While a drawing is being saved before the end: its dialogs are answered, other events are not.
+bool rescuing = false;
 std::vector<std::function<void()>> postponed;
 std::vector<std::function<void()>> repaints;
 
@@ -32,6 +34,7 @@ void reportAndRescue(const std::string& text) {
   if (atStake.empty() || !host().errorReportBeforeLoss) {
     if (host().errorReport) host().errorReport(text, true);
   } else if (host().errorReportBeforeLoss(text)) {
+    rescuing = true;
     for (Form* form : atStake) form->SaveSheet();
   }
 }
@@ -44,6 +47,7 @@ void failProgram(const std::string& text) {
   } catch (const std::exception&) {
     // A drawing that cannot be saved any more is lost; the program still ends in good order.
   }
+  rescuing = false;
   finishProgram();
 }
 
@@ -119,7 +123,7 @@ void End() {
   throw ProgramEnd{};
 }
 
-bool ended() { return hasEnded; }
+bool ended() { return hasEnded && !rescuing; }
 void restart() { hasEnded = false; }
 
 }  // namespace surface

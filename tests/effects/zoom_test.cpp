@@ -5,6 +5,7 @@
 #include "effects/frmZoom.h"
 #include "shell/frmStart.h"
 #include "studio/modTekenen.h"
+#include "text/frmTekst.h"
 
 using namespace surface;
 using raster::Bitmap;
@@ -124,6 +125,23 @@ TEST_F(Magnifier, ClosesAtTheFirstPressOnTheSheetWithAnyTool) {
     move(sheet, 230, 230);
     EXPECT_FALSE(isLoaded<frmZoom>()) << "a move loads it no more";
   }
+}
+
+TEST_F(Magnifier, LoadsTheHiddenTextFormAndSoTurnsThePenBlack) {
+  click(studio.cmdLijn);
+  pickColor(20);
+  ASSERT_NE(sheet.ForeColor, Black);
+  open();
+  EXPECT_TRUE(isLoaded<frmTekst>());
+  EXPECT_FALSE(the<frmTekst>().shown());
+  EXPECT_TRUE(the<frmTekst>().topMost());
+  EXPECT_EQ(sheet.ForeColor, Black);
+  pickColor(20);
+  press(sheet, 20, 20);
+  release(sheet, 20, 20);
+  EXPECT_NE(sheet.ForeColor, Black) << "a press on the sheet loads nothing";
+  open();
+  EXPECT_NE(sheet.ForeColor, Black) << "it is loaded only once";
 }
 
 TEST_F(Magnifier, IsNotLoadedByAPressOnTheSheet) {
