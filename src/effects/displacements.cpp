@@ -62,7 +62,8 @@ class Dent {
   };
 
   static std::size_t spot(int dx, int dy) {
-    return static_cast<std::size_t>((dy + DentReach) * DentSide + dx + DentReach);
+    const int place = (dy + DentReach) * DentSide + dx + DentReach;
+    return static_cast<std::size_t>(place);
   }
 
   static void darken(std::optional<Table>& table, double factor) {

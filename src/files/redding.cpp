@@ -16,7 +16,7 @@ constexpr int MostNumbers = 10'000;
 // A name that was free until now: two programs that go down together do not get the same one.
 std::string vrijeNaam(const std::string& folder) {
   for (int number = 1; number <= MostNumbers; ++number) {
-    const std::string name = folder + "/KrasPret redding " + std::to_string(number) + ".bmp";
+    std::string name = folder + "/KrasPret redding " + std::to_string(number) + ".bmp";
     if (makeFile(name)) return name;
     if (!BestandBestaat(name)) break;
   }

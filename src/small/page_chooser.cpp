@@ -21,7 +21,8 @@ PageChooser::PageChooser(int screen, const char* instruction)
 }
 
 Control::Place PageChooser::cell(int n) {
-  const auto column = static_cast<float>((n - 1) / 3), row = static_cast<float>((n - 1) % 3);
+  const int columnNumber = (n - 1) / 3, rowNumber = (n - 1) % 3;
+  const auto column = static_cast<float>(columnNumber), row = static_cast<float>(rowNumber);
   return {360 + 2280 * column, 1320 + 2040 * row, 2055, 1935};
 }
 

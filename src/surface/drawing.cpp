@@ -233,7 +233,7 @@ raster::Bitmap& DrawingSurface::writableBitmap() {
 }
 
 std::shared_ptr<const raster::Bitmap> DrawingSurface::composed() const {
-  const auto stored = Picture->over(toPixel(BackColor));
+  auto stored = Picture->over(toPixel(BackColor));
   if (stored && stored->bounds() == inner_) return stored;
   auto fresh =
       std::make_shared<raster::Bitmap>(inner_.width(), inner_.height(), toPixel(BackColor));
