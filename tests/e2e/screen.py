@@ -66,7 +66,7 @@ class Screen:
         self.env.update(HOME=str(self.folder / "home"), XDG_RUNTIME_DIR=str(self.folder / "run"), LC_ALL="C.UTF-8",
                         XDG_CONFIG_HOME=str(self.folder / "home/.config"), XDG_DATA_HOME=str(self.folder / "home/.local"),
                         XDG_CACHE_HOME=str(self.folder / "home/.cache"), QT_QPA_PLATFORM="xcb",
-                        XCURSOR_SIZE="16")
+                        XCURSOR_SIZE="16", QT_SCALE_FACTOR="1")  # a test that is not about the factor sees logical pixels
         self._start_screen()
 
     # The helpers

@@ -3,10 +3,12 @@
 #include "surface/qt/art.h"
 
 #include <QFile>
+#include <QGuiApplication>
 #include <QHash>
 #include <QPixmapCache>
 #include <QTextStream>
 
+#include "surface/qt/factor.h"
 #include "surface/qt/images.h"
 
 namespace surface::qt {
@@ -33,6 +35,16 @@ QPoint hotSpot(const std::string& name) {
   return {};
 }
 
+// The same picture with the pixels of the screen.
+QPixmap inSquares(const QPixmap& pixmap) {
+  const double factor = qGuiApp->devicePixelRatio();
+  if (factor <= 1) return pixmap;
+  const QRectF place(QPointF(), QSizeF(pixmap.size()) * factor);
+  QPixmap large = QPixmap::fromImage(enlarged(pixmap.toImage(), place, place.toAlignedRect()));
+  large.setDevicePixelRatio(factor);
+  return large;
+}
+
 }  // namespace
 
 QPixmap artPixmap(const std::string& name) {
@@ -55,8 +67,8 @@ QCursor artCursor(const std::string& name) {
   if (const auto found = made.constFind(key); found != made.constEnd()) return *found;
   const QPixmap pixmap = artPixmap(name);
   const QPoint tip = hotSpot(name);
-  return *made.insert(
-      key, pixmap.isNull() ? QCursor(Qt::CrossCursor) : QCursor(pixmap, tip.x(), tip.y()));
+  return *made.insert(key, pixmap.isNull() ? QCursor(Qt::CrossCursor)
+                                           : QCursor(inSquares(pixmap), tip.x(), tip.y()));
 }
 
 QIcon programIcon() {

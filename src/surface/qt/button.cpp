@@ -7,6 +7,7 @@
 #include <QShortcut>
 
 #include "surface/qt/art.h"
+#include "surface/qt/factor.h"
 #include "surface/qt/pointer.h"
 #include "surface/qt/text_layout.h"
 
@@ -18,19 +19,22 @@ constexpr int Lit = 125;  // per cent of the face's brightness, while a button i
 }  // namespace
 
 void drawClassicEdge(QPainter& painter, const QRect& area, bool sunken) {
+  const DevicePixels device(painter);
+  const int line = device.line();
   const QColor light(0xFF, 0xFF, 0xFF), shadow(0x80, 0x80, 0x80), dark(0x40, 0x40, 0x40);
   const auto frame = [&](const QRect& r, const QColor& upper, const QColor& lower) {
-    painter.fillRect(r.left(), r.top(), r.width(), 1, upper);
-    painter.fillRect(r.left(), r.top(), 1, r.height(), upper);
-    painter.fillRect(r.left(), r.bottom(), r.width(), 1, lower);
-    painter.fillRect(r.right(), r.top(), 1, r.height(), lower);
+    painter.fillRect(r.left(), r.top(), r.width(), line, upper);
+    painter.fillRect(r.left(), r.top(), line, r.height(), upper);
+    painter.fillRect(r.left(), r.bottom() + 1 - line, r.width(), line, lower);
+    painter.fillRect(r.right() + 1 - line, r.top(), line, r.height(), lower);
   };
+  const QRect outer = device.whole(area), inner = outer.adjusted(line, line, -line, -line);
   if (sunken) {
-    frame(area, dark, dark);
-    frame(area.adjusted(1, 1, -1, -1), shadow, shadow);
+    frame(outer, dark, dark);
+    frame(inner, shadow, shadow);
   } else {
-    frame(area, light, dark);
-    frame(area.adjusted(1, 1, -1, -1), QColor(0xE8, 0xE8, 0xE8), shadow);
+    frame(outer, light, dark);
+    frame(inner, QColor(0xE8, 0xE8, 0xE8), shadow);
   }
 }
 
@@ -72,8 +76,13 @@ void ButtonWidget::paintEvent(QPaintEvent*) {
   if (sunken) inner.translate(1, 1);
   if (!picture_.isNull()) {
     painter.setOpacity(isEnabled() ? 1 : 0.3);
-    painter.drawPixmap(inner.left() + (inner.width() - picture_.width()) / 2,
-                       inner.top() + (inner.height() - picture_.height()) / 2, picture_);
+    const QPoint corner(inner.left() + (inner.width() - picture_.width()) / 2,
+                        inner.top() + (inner.height() - picture_.height()) / 2);
+    const QRect place(corner, picture_.size());
+    if (devicePixelRatioF() > 1)
+      drawSquares(painter, picture_.toImage(), place, place);
+    else
+      painter.drawPixmap(corner, picture_);
     painter.setOpacity(1);
   }
   painter.setFont(font());

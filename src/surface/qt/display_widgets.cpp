@@ -7,6 +7,7 @@
 
 #include "surface/qt/art.h"
 #include "surface/qt/button.h"
+#include "surface/qt/factor.h"
 #include "surface/qt/images.h"
 #include "surface/qt/pointer.h"
 #include "surface/qt/text_layout.h"
@@ -30,9 +31,10 @@ QPixmap shrunk(const QPixmap& picture, QSize place) {
   return picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
-// Enlarged as squares: column d takes the picture's column floor(d * n / width), and so do the
+// Stretched as squares: column d takes the picture's column floor(d * n / width), and so do the
 // rows.
-QImage enlarged(const QImage& picture, QSize place) {
+QImage stretched(const QImage& picture, QSize place) {
+  if (picture.isNull() || picture.size() == place) return picture;
   QImage result(place, picture.format());
   const auto columns = [&](int x) { return x * picture.width() / place.width(); };
   for (int y = 0; y < place.height(); ++y) {
@@ -114,10 +116,12 @@ void FrameWidget::paintEvent(QPaintEvent* event) {
   const QString title = QString::fromStdString(control->Caption);
   const QFontMetrics metrics = painter.fontMetrics();
   const QRect edge = rect().adjusted(0, title.isEmpty() ? 0 : metrics.height() / 2, -2, -2);
+  // Enlarged, a line runs along the middle of its pixels.
+  const double middle = devicePixelRatioF() > 1 ? 0.5 : 0;
   painter.setPen(Qt::white);
-  painter.drawRect(edge.translated(1, 1));
+  painter.drawRect(QRectF(edge).translated(1 + middle, 1 + middle));
   painter.setPen(QColor(0x80, 0x80, 0x80));
-  painter.drawRect(edge);
+  painter.drawRect(QRectF(edge).translated(middle, middle));
   if (!title.isEmpty()) {
     const QRect place(8, 0, metrics.horizontalAdvance(title) + 4, metrics.height());
     painter.fillRect(place, toQColor(control->BackColor));
@@ -145,11 +149,15 @@ void ImageWidget::paintEvent(QPaintEvent*) {
   if (!control) return;
   QPainter painter(this);
   const QRect inner = control->Border ? rect().adjusted(2, 2, -2, -2) : rect();
-  const QPixmap fitting = shrunk(picture_, inner.size());
-  if (fitting.isNull() || fitting.size() == inner.size())
-    painter.drawPixmap(inner, fitting);
-  else
-    painter.drawImage(inner, enlarged(fitting.toImage(), inner.size()));
+  // A picture that fits is enlarged to its place in the program's own pixels, so that it is the same
+  // at every factor; a larger one is shrunk to what the screen can show.
+  const bool fits = picture_.size() == picture_.size().boundedTo(inner.size());
+  if (fits) {
+    drawSquares(painter, stretched(picture_.toImage(), inner.size()), inner, inner);
+  } else {
+    const QSize place = DevicePixels(painter).whole(inner).size();
+    drawSquares(painter, shrunk(picture_, place).toImage(), inner, inner);
+  }
   if (control->Border) drawClassicEdge(painter, rect(), true);
 }
 

@@ -7,6 +7,7 @@
 #include "surface/form.h"
 #include "surface/qt/button.h"
 #include "surface/qt/display_widgets.h"
+#include "surface/qt/factor.h"
 #include "surface/qt/input_widgets.h"
 #include "surface/qt/pointer.h"
 #include "surface/qt/surface_widget.h"
@@ -80,10 +81,11 @@ std::unique_ptr<Peer> makePeer(Control& control, QWidget& parent) {
 }
 
 void showPixels(QWidget& widget, const raster::Rect& area, bool atOnce) {
+  const QRect shown = damaged(toQRect(area), widget.devicePixelRatioF());
   if (atOnce)
-    widget.repaint(toQRect(area));
+    widget.repaint(shown);
   else
-    widget.update(toQRect(area));
+    widget.update(shown);
 }
 
 void makePeers(const Container& container, QWidget& parent) {

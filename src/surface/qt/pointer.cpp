@@ -1,14 +1,70 @@
 // The numbers by which the model knows buttons, modifier keys and pointer shapes.
 #include "surface/qt/pointer.h"
 
+#include <QGuiApplication>
+#include <QWindow>
+#include <cmath>
+
 #include "surface/controls.h"
 #include "surface/numbers.h"
 #include "surface/qt/art.h"
+#include "surface/qt/factor.h"
 
 namespace surface::qt {
 
+namespace {
+
+// What a position may lose of a pixel when the toolkit counts it to and fro.
+constexpr double Lost = 1e-6;
+
+// Before a window looks for the widget beneath the pointer: it would round, and at the edge find
+// the neighbour.
+class ExactPointer : public QObject {
+ public:
+  using QObject::QObject;
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    const auto* window = watched->isWindowType() ? static_cast<QWindow*>(watched) : nullptr;
+    switch (event->type()) {
+      case QEvent::MouseButtonPress:
+      case QEvent::MouseButtonRelease:
+      case QEvent::MouseButtonDblClick:
+      case QEvent::MouseMove:
+        if (window) snap(*static_cast<QMouseEvent*>(event), window->devicePixelRatio());
+        break;
+      default:
+        break;
+    }
+    return false;
+  }
+
+ private:
+  static int snapped(double position, double factor) {
+    // A mouse stands on a whole device pixel: the quotient may be a bit less. A pen may be finer,
+    // and then stands on one logical pixel alone.
+    const double device = position * factor, whole = std::round(device);
+    if (std::abs(device - whole) > Lost) return static_cast<int>(Int(position));
+    return pixelShownAt(static_cast<int>(whole), factor);
+  }
+  static void snap(QMouseEvent& event, double factor) {
+    const QPointF at(snapped(event.position().x(), factor), snapped(event.position().y(), factor));
+    QMouseEvent exact(event.type(), at, at, event.globalPosition(), event.button(), event.buttons(),
+                      event.modifiers(), event.pointingDevice());
+    event.point(0) = exact.point(0);
+  }
+};
+
+}  // namespace
+
+void installExactPointer() {
+  static QObject* installed = nullptr;
+  if (installed) return;
+  installed = new ExactPointer(qApp);
+  qApp->installEventFilter(installed);
+}
+
 QPoint pixelUnder(const QMouseEvent& event) {
-  return {static_cast<int>(Int(event.position().x())), static_cast<int>(Int(event.position().y()))};
+  const QPointF at = event.position() + QPointF(Lost, Lost);
+  return {static_cast<int>(Int(at.x())), static_cast<int>(Int(at.y()))};
 }
 
 Mouse toMouse(const QMouseEvent& event) {

@@ -16,6 +16,10 @@ Mouse toMouse(const QMouseEvent& event, const DrawingSurface& surface);
 /// The same on a control without a scale of its own: positions in twips.
 Mouse toMouse(const QMouseEvent& event);
 
+/// Lets every window hear of logical pixels only: a pointer that is anywhere on a device pixel is
+/// on the logical pixel that is shown there. Once, with the application.
+void installExactPointer();
+
 /// The pixel of the widget that the pointer is on; a position may be a fraction.
 QPoint pixelUnder(const QMouseEvent& event);
 

@@ -9,6 +9,7 @@
 #include <algorithm>
 
 #include "surface/qt/button.h"
+#include "surface/qt/factor.h"
 #include "surface/qt/images.h"
 #include "surface/qt/pointer.h"
 
@@ -30,7 +31,12 @@ void paintSurface(QPainter& painter, const DrawingSurface& surface, const QRect&
     return;
   }
   const auto bitmap = surface.bitmap();
-  if (!area.isEmpty()) painter.drawImage(area, wrapped(*bitmap), area);
+  if (area.isEmpty()) return;
+  const QImage image = wrapped(*bitmap);
+  if (painter.device()->devicePixelRatioF() > 1)
+    drawSquares(painter, image, image.rect(), area);
+  else
+    painter.drawImage(area, image, area);
 }
 
 SurfaceWidget::SurfaceWidget(PictureBox& owner, QWidget& parent)

@@ -24,9 +24,11 @@
 #include "surface/numbers.h"
 #include "surface/qt/art.h"
 #include "surface/qt/dialogs.h"
+#include "surface/qt/factor.h"
 #include "surface/qt/fonts.h"
 #include "surface/qt/form_window.h"
 #include "surface/qt/images.h"
+#include "surface/qt/pointer.h"
 #include "surface/qt/printing.h"
 #include "surface/qt/signals.h"
 #include "surface/qt/surface_widget.h"
@@ -73,15 +75,6 @@ std::string joined(int argc, char** argv) {
   return all;
 }
 
-// The program's pixels are whole: on a screen of 150 % they are shown at 100 %, at 250 % at 200
-// %.
-void keepPixelsWhole() {
-  QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::Floor);
-  bool given = false;
-  const double factor = qEnvironmentVariable("QT_SCALE_FACTOR").toDouble(&given);
-  if (given) qputenv("QT_SCALE_FACTOR", QByteArray::number(std::max(1, static_cast<int>(factor))));
-}
-
 // Until the application stands: the toolkit would tell in English what it has tried, and abort.
 void endWithoutScreen(QtMsgType type, const QMessageLogContext&, const QString&) {
   if (type != QtFatalMsg) return;
@@ -100,6 +93,7 @@ void install() {
   QApplication::setQuitOnLastWindowClosed(false);
   installDutch();
   installSurfaceAccessibility();
+  installExactPointer();
   setDecimalSeparator(QLocale::system().decimalPoint() == "," ? ',' : '.');
 
   Host& seams = host();
@@ -134,10 +128,10 @@ int run(int argc, char** argv, const Program& program) {
   app().Command = joined(argc, argv);
   // The limit on a picture's memory is the program's own.
   qunsetenv("QT_IMAGEIO_MAXALLOC");
-  keepPixelsWhole();
   // The toolkit gets none of the command line: all of it names a picture.
   int onlyName = 1;
   const auto usual = qInstallMessageHandler(endWithoutScreen);
+  chooseFactor(onlyName, argv);
   QApplication application(onlyName, argv);
   qInstallMessageHandler(usual);
   install();

@@ -9,9 +9,19 @@
 namespace surface::qt {
 namespace {
 
+// Enlarged, the middle of an odd line is that of a pixel, and its corners show.
+void enlargePen(QPainter& painter, int width) {
+  if (painter.device()->devicePixelRatioF() <= 1) return;
+  if (width % 2) painter.translate(0.5, 0.5);
+  QPen pen = painter.pen();
+  pen.setJoinStyle(Qt::MiterJoin);
+  painter.setPen(pen);
+}
+
 void paintLine(QPainter& painter, const LineControl& line) {
   const LineEnds ends = line.pixelEnds();
   painter.setPen(QPen(toQColor(line.BorderColor), line.BorderWidth, Qt::SolidLine, Qt::FlatCap));
+  enlargePen(painter, line.BorderWidth);
   painter.drawLine(ends.x1, ends.y1, ends.x2, ends.y2);
 }
 
@@ -20,6 +30,7 @@ void paintShape(QPainter& painter, const ShapeControl& shape) {
   const QRect outer =
       toQRect(shape.pixelPlace()).adjusted(pen / 2, pen / 2, -(pen + 1) / 2, -(pen + 1) / 2);
   painter.setPen(QPen(toQColor(shape.BorderColor), pen));
+  enlargePen(painter, pen);
   painter.setBrush(shape.Filled ? QBrush(toQColor(shape.FillColor)) : QBrush(Qt::NoBrush));
   if (shape.Oval)
     painter.drawEllipse(outer);
