@@ -45,6 +45,14 @@ QPixmap inSquares(const QPixmap& pixmap) {
   return large;
 }
 
+// The middle of a cursor's working pixel. On X11 the toolkit passes it on as it is, in the pixels
+// of the screen.
+QPoint tipOnScreen(QPoint tip) {
+  if (QGuiApplication::platformName() != "xcb") return tip;
+  const QPointF middle = (QPointF(tip) + QPointF(0.5, 0.5)) * qGuiApp->devicePixelRatio();
+  return {static_cast<int>(middle.x()), static_cast<int>(middle.y())};
+}
+
 }  // namespace
 
 QPixmap artPixmap(const std::string& name) {
@@ -66,7 +74,7 @@ QCursor artCursor(const std::string& name) {
   const QString key = QString::fromStdString(name);
   if (const auto found = made.constFind(key); found != made.constEnd()) return *found;
   const QPixmap pixmap = artPixmap(name);
-  const QPoint tip = hotSpot(name);
+  const QPoint tip = tipOnScreen(hotSpot(name));
   return *made.insert(key, pixmap.isNull() ? QCursor(Qt::CrossCursor)
                                            : QCursor(inSquares(pixmap), tip.x(), tip.y()));
 }
