@@ -12,6 +12,7 @@
 #include <random>
 
 #include "support/script.h"
+#include "surface/host.h"
 #include "surface/qt/images.h"
 
 using namespace surface;
