@@ -149,8 +149,8 @@ void ImageWidget::paintEvent(QPaintEvent*) {
   if (!control) return;
   QPainter painter(this);
   const QRect inner = control->Border ? rect().adjusted(2, 2, -2, -2) : rect();
-  // A picture that fits is enlarged to its place in the program's own pixels, so that it is the same
-  // at every factor; a larger one is shrunk to what the screen can show.
+  // A picture that fits is enlarged to its place in the program's own pixels, so that it is the
+  // same at every factor; a larger one is shrunk to what the screen can show.
   const bool fits = picture_.size() == picture_.size().boundedTo(inner.size());
   if (fits) {
     drawSquares(painter, stretched(picture_.toImage(), inner.size()), inner, inner);
