@@ -181,17 +181,18 @@ void DrawingSurface::Cls() {
 void DrawingSurface::PaintPicture(const surface::Picture& picture, PointF to,
                                   std::optional<SizeF> size, std::optional<raster::Rect> source) {
   if (picture.empty()) throw RuntimeError(ErrorKind::BadPropertyValue, "Invalid picture");
-  const raster::Rect from = source.value_or(picture.bitmap()->bounds());
+  const auto seen = picture.over(toPixel(BackColor));
+  const raster::Rect from = source.value_or(seen->bounds());
   const Pixels p = pixelsOf(to);
   if (!size) {
-    damage(raster::blit(writableBitmap(), p.x, p.y, from.width(), from.height(), *picture.bitmap(),
-                        from.left, from.top));
+    damage(raster::blit(writableBitmap(), p.x, p.y, from.width(), from.height(), *seen, from.left,
+                        from.top));
     return;
   }
   const int width = toCoordinate(size->Width * scale().pixelsPerUnitX());
   const int height = toCoordinate(size->Height * scale().pixelsPerUnitY());
-  damage(raster::stretch(writableBitmap(), p.x, p.y, width, height, *picture.bitmap(), from.left,
-                         from.top, from.width(), from.height()));
+  damage(raster::stretch(writableBitmap(), p.x, p.y, width, height, *seen, from.left, from.top,
+                         from.width(), from.height()));
 }
 
 void DrawingSurface::Print(const std::string& text) {

@@ -1,4 +1,6 @@
 """Another size for the sheet, typed in centimetres as the system writes numbers, and a new sheet."""
+import pathlib
+import struct
 import unittest
 from unittest import mock
 
@@ -108,6 +110,36 @@ class Sheet(Studio):
         picture = pixels.read_bmp(self.path("eerst.bmp"))
         self.assertEqual((picture.width, picture.height), SHEET)
         self.saved((in_pixels(5), in_pixels(5)))
+
+    def most_memory(self):
+        """The most that the program has ever held, in MiB."""
+        status = pathlib.Path(f"/proc/{self.program.process.pid}/status").read_text(encoding="ascii")
+        return next(int(line.split()[1]) for line in status.splitlines() if line.startswith("VmHWM:")) / 1024
+
+    def test_drawing_on_the_largest_sheet_takes_three_copies_of_it_at_most(self):
+        self.begin_in("nl_NL.UTF-8")
+        before = self.most_memory()
+        self.resize("211,6", "211,6")
+        for y in (50, 80, 110, 140):
+            self.stroke((40, y), (140, y), steps=4)
+            self.program.wait_pixel(100, y, BLACK)
+        self.click(studio.UNDO)
+        self.program.wait_pixel(100, 140, kraspret.WHITE)
+        copy = in_pixels(211.6) ** 2 * 4 / 2**20
+        self.assertGreater(copy, 240)
+        self.assertLess(self.most_memory() - before, 3 * copy + 32)
+
+    def test_a_large_bitmap_is_opened_within_two_hundred_mebibytes(self):
+        side = 4096
+        picture = self.path("groot.bmp")
+        with open(picture, "wb") as file:
+            file.write(b"BM" + struct.pack("<IIIIiiHHIIiiII", 54 + 3 * side * side, 0, 54, 40, side, side, 1, 24, 0, 0, 0, 0, 0, 0))
+            for _ in range(side):
+                file.write(bytes((0, 0, 255)) * side)
+        self.program = self.start(str(picture))
+        self.sheet = self.program.open_studio()
+        self.program.wait_pixel(300, 300, studio.RED)
+        self.assertLess(self.most_memory(), 200)
 
 
 if __name__ == "__main__":

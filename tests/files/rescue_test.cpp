@@ -1,11 +1,19 @@
 // What becomes of a drawing when the desktop logs out or the machine goes down.
+#include <unistd.h>
+
+#include <QCoreApplication>
+#include <csignal>
 #include <filesystem>
 
 #include "files/disk.h"
 #include "files/picture_files.h"
 #include "files/redding.h"
 #include "studio/frmTekenen2.h"
+#include "support/errors.h"
 #include "support/script.h"
+#include "surface/host.h"
+#include "surface/qt/signals.h"
+#include "surface/qt/toolkit.h"
 
 using namespace surface;
 using namespace picture_files;
@@ -59,6 +67,42 @@ TEST_F(GoingDown, EndsQuietlyWhereNothingCanBeWritten) {
     redTekeningen(folder());
   }
   EXPECT_TRUE(disk::names(folder()).empty()) << "debris";
+}
+
+TEST_F(GoingDown, TakesTheDrawingAlongBehindAnOpenMessageAndAnOpenReportOfAnError) {
+  const surface::qt::Program program{
+      .start = {}, .logOut = {}, .rescue = [this](const std::string&) { redTekeningen(folder()); }};
+  const auto goDown = [&] { surface::qt::endFromOutside(program); };
+  draw();
+  host().msgBox = [&](const std::string&, int, const std::string&) {
+    goDown();
+    return Ok;
+  };
+  dispatch([] { MsgBox("Klaar"); });
+  EXPECT_TRUE(ended());
+  expectDrawing("KrasPret redding 1.bmp");
+  restart();
+  host().errorReport = [&](const std::string&, bool) { goDown(); };
+  dispatch([] { throw RuntimeError(ErrorKind::BadFile, "mis"); });
+  EXPECT_TRUE(ended());
+  expectDrawing("KrasPret redding 2.bmp");
+  EXPECT_EQ(disk::names(folder()).size(), 2u);
+}
+
+// The system waits no longer: a disk that does not answer must not hold the machine up.
+TEST_F(GoingDown, TheEndComesAfterTwoSecondsAtTheLatest) {
+  EXPECT_EXIT(
+      {
+        surface::qt::whenAskedToEnd([] {
+          if (alarm(0) != 2) _exit(1);
+          std::raise(SIGALRM);  // as if they had passed
+          _exit(2);
+        });
+        std::raise(SIGTERM);
+        for (int turns = 0; turns < 100; ++turns) QCoreApplication::processEvents();
+        _exit(3);
+      },
+      testing::ExitedWithCode(0), "");
 }
 
 TEST_F(GoingDown, ALogOutAsksWhetherToSaveTheDrawing) {

@@ -1,5 +1,7 @@
 // Every form of the program: opened, every button fired that leads nowhere dangerous, closed.
+#include <QAccessible>
 #include <QImage>
+#include <QWidget>
 #include <filesystem>
 #include <fstream>
 #include <set>
@@ -29,6 +31,7 @@
 #include "support/script.h"
 #include "support/tree_folder.h"
 #include "surface/host.h"
+#include "surface/qt/peers.h"
 #include "text/frmTekst.h"
 
 using namespace surface;
@@ -155,6 +158,35 @@ TEST_P(EveryForm, IsDrawnWithEveryPanelOpenAtOnce) {
   EXPECT_FALSE(shown(form).isNull());
   for (Control* control : controls) control->Visible = false;
   EXPECT_FALSE(shown(form).isNull());
+  EXPECT_EQ(takeErrorReport(), std::nullopt);
+}
+
+TEST_P(EveryForm, TellsAScreenReaderWhatEachControlIsAndIsSilentAboutOrnaments) {
+  Form& form = GetParam().open();
+  std::vector<Control*> controls;
+  collect(form, controls);
+  for (Control* control : controls)
+    if (dynamic_cast<Frame*>(control)) control->Visible = true;
+  int told = 0;
+  for (std::size_t i = 0; i < controls.size(); ++i) {
+    const QWidget* widget = surface::qt::widgetOf(*controls[i]);
+    if (!widget || !widget->isVisible()) continue;
+    auto* heard = QAccessible::queryAccessibleInterface(const_cast<QWidget*>(widget));
+    ASSERT_NE(heard, nullptr);
+    const std::string name = heard->text(QAccessible::Name).toStdString();
+    const bool silent = heard->state().invisible;
+    const auto* label = dynamic_cast<Label*>(controls[i]);
+    const auto* image = dynamic_cast<ImageControl*>(controls[i]);
+    const bool ornament = label || image || controls[i]->windowless();
+    const bool serves = (label && label->Click.handled()) || (image && image->Click.handled());
+    // A frame without a title only groups.
+    if (!dynamic_cast<Frame*>(controls[i]))
+      EXPECT_EQ(silent, name.empty())
+          << "control " << i << ", " << widget->metaObject()->className();
+    EXPECT_TRUE(!silent || (ornament && !serves)) << "control " << i << " " << name;
+    told += !silent;
+  }
+  EXPECT_GT(told, 0);
   EXPECT_EQ(takeErrorReport(), std::nullopt);
 }
 

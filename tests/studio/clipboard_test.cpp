@@ -200,6 +200,17 @@ TEST_F(SystemClipboard, AnythingButAPictureMakesTheSheetBlank) {
   EXPECT_TRUE(shows(sheet, blank()));
 }
 
+TEST_F(SystemClipboard, APictureThatCannotBeTakenLeavesTheSheetAsItIs) {
+  draw();
+  const raster::Bitmap drawn = canvas();
+  auto* broken = new QMimeData;
+  for (const char* kind : {"image/png", "application/x-qt-image"})
+    broken->setData(kind, "dit is geen plaatje");
+  system->setMimeData(broken);
+  click(studio.cmdPlakken);
+  EXPECT_TRUE(shows(sheet, drawn));
+}
+
 TEST_F(SystemClipboard, ASheetOfNoSizeLeavesNothing) {
   sheet.Width = 0;
   system->setText("van daarvoor");

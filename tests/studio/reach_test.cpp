@@ -64,3 +64,29 @@ TEST_F(Reach, TheOptionsAreRadioButtonsToAScreenReader) {
   studio.Option5(1).Value = false;
   EXPECT_FALSE(spoken->state().checked) << "the last one of a choice can be cleared, too";
 }
+
+TEST_F(Reach, TheListOfLineStylesIsToldApartFromTheStyleThatItShows) {
+  studio.cmdLijnen.Click();
+  auto* list = QAccessible::queryAccessibleInterface(script::widgetOf(studio.cboStijl));
+  EXPECT_EQ(list->role(), QAccessible::ComboBox);
+  EXPECT_EQ(list->text(QAccessible::Name), "Lijnstijl");
+  EXPECT_EQ(list->text(QAccessible::Value), "Doorlopend");
+  EXPECT_TRUE(list->state().collapsed);
+  auto* rows = list->child(0);
+  ASSERT_NE(rows, nullptr);
+  EXPECT_EQ(list->indexOfChild(rows), 0);
+  EXPECT_EQ(rows->text(QAccessible::Name), "Lijnstijl");
+  EXPECT_EQ(rows->childCount(), 5);
+  studio.cboStijl.ListIndex = 2;
+  EXPECT_EQ(list->text(QAccessible::Name), "Lijnstijl");
+  EXPECT_EQ(list->text(QAccessible::Value), "Kleurrijk");
+}
+
+TEST_F(Reach, AScreenReaderCanOpenTheListOfLineStyles) {
+  studio.cmdLijnen.Click();
+  auto* list = QAccessible::queryAccessibleInterface(script::widgetOf(studio.cboStijl));
+  list->actionInterface()->doAction(QAccessibleActionInterface::showMenuAction());
+  EXPECT_TRUE(list->state().expanded);
+  list->actionInterface()->doAction(QAccessibleActionInterface::showMenuAction());
+  EXPECT_FALSE(list->state().expanded);
+}

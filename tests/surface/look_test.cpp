@@ -341,6 +341,38 @@ TEST_F(Looks, AnImageIsEnlargedInSquaresAndShrunkSmoothly) {
   }
 }
 
+TEST_F(Looks, TransparentPartsOfAnImageShowWhatItStandsOn) {
+  auto red = std::make_shared<raster::Bitmap>(2, 1, toPixel(Red));
+  red->row(0)[1] = toPixel(White);
+  show.imgPlaat.Picture = Picture(std::move(red), {255, 0});
+  EXPECT_EQ(shown(show.imgPlaat).pixelColor(10, 20), color(Red));
+  EXPECT_EQ(shown(show.imgPlaat).pixelColor(30, 20), color(0x336699));
+  show.BackColor = 0x00FFFF;
+  EXPECT_EQ(shown(show.imgPlaat).pixelColor(30, 20), color(0x00FFFF));
+  show.sheet.BackColor = Green;
+  show.sheet.PaintPicture(show.imgPlaat.Picture, {10, 10});
+  show.sheet.PaintPicture(show.imgPlaat.Picture, {20, 20}, SizeF{8, 4});
+  EXPECT_EQ(show.sheet.Point({10, 10}), Red);
+  EXPECT_EQ(show.sheet.Point({11, 10}), Green);
+  EXPECT_EQ(show.sheet.Point({20, 20}), Red);
+  EXPECT_EQ(show.sheet.Point({27, 23}), Green);
+}
+
+TEST_F(Looks, AnOrnamentIsNotToldToAScreenReader) {
+  const auto told = [](Control& control) {
+    return !QAccessible::queryAccessibleInterface(script::widgetOf(control))->state().invisible;
+  };
+  EXPECT_FALSE(told(show.lblTekst));
+  EXPECT_FALSE(told(show.imgPlaat));
+  EXPECT_FALSE(told(show.lnRand));
+  show.lblTekst.Caption = "dag";
+  EXPECT_TRUE(told(show.lblTekst));
+  show.imgPlaat.AccessibleName = "oma";
+  show.imgPlaat.ToolTipText = "een plaat";
+  EXPECT_TRUE(told(show.imgPlaat));
+  EXPECT_EQ(spokenName(show.imgPlaat), "oma");
+}
+
 TEST_F(Looks, ControlsAreStackedInTheOrderOfTheirDeclaration) {
   class Stack : public Form {
    public:

@@ -1,6 +1,7 @@
 // The toolkit's own dialogs behind the seams, answered by hand: Dutch buttons, answers, cancels.
 #include <QAbstractButton>
 #include <QAbstractItemView>
+#include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
 #include <QColorDialog>
@@ -12,6 +13,7 @@
 #include <QScreen>
 #include <QTest>
 #include <QTimer>
+#include <QWidget>
 #include <filesystem>
 #include <fstream>
 #include <functional>
@@ -44,6 +46,18 @@ void choose(QMessageBox& box, const QString& text) {
   for (QAbstractButton* button : box.buttons())
     if (button->text().remove('&') == text) return button->click();
   ADD_FAILURE() << "there is no button " << text.toStdString();
+}
+
+/// The kinds of what the Tab key reaches and a screen reader has no name for.
+std::vector<std::string> nameless(const QWidget& dialog) {
+  std::vector<std::string> kinds;
+  for (QWidget* part : dialog.findChildren<QWidget*>()) {
+    if (!part->isVisible() || !(part->focusPolicy() & Qt::TabFocus) || part->focusProxy()) continue;
+    auto* heard = QAccessible::queryAccessibleInterface(part);
+    if (!heard || heard->text(QAccessible::Name).isEmpty())
+      kinds.push_back(part->metaObject()->className() + (" " + part->objectName().toStdString()));
+  }
+  return kinds;
 }
 
 }  // namespace
@@ -205,6 +219,25 @@ TEST_F(RealDialogs, TheColourDialogStartsAtItsColourAndGivesTheChosenOne) {
   EXPECT_EQ(host().colorDialog(RGB(0x11, 0x22, 0x33), 0), RGB(0xAA, 0xBB, 0xCC));
   whenOpen<QColorDialog>([](QColorDialog& dialog) { dialog.reject(); });
   EXPECT_EQ(host().colorDialog(Black, 0), std::nullopt);
+}
+
+TEST_F(RealDialogs, AScreenReaderHasANameForAllThatCanBeReached) {
+  const auto expectNames = [](QDialog& dialog) {
+    EXPECT_EQ(nameless(dialog), std::vector<std::string>());
+    dialog.reject();
+  };
+  whenOpen<QDialog>(expectNames);
+  MsgBox("Ga je door ?", YesNo, "Titel");
+  whenOpen<QDialog>(expectNames);
+  InputBox("Hoe breed ?", "Maat", "10");
+  for (const bool save : {false, true}) {
+    whenOpen<QDialog>(expectNames);
+    host().fileDialog({save, "Alle bestanden|*.*", 1});
+  }
+  for (const int flags : {0, 4}) {
+    whenOpen<QDialog>(expectNames);
+    host().colorDialog(Black, flags);
+  }
 }
 
 TEST_F(RealDialogs, AnUntrappedErrorIsShownWithItsText) {

@@ -46,6 +46,14 @@ QImage stretched(const QImage& picture, QSize place) {
   return result;
 }
 
+// What shows through the transparent parts of a picture.
+Color groundOf(const Container& container) {
+  if (const auto* surface = dynamic_cast<const DrawingSurface*>(&container))
+    return surface->BackColor;
+  const auto* frame = dynamic_cast<const Frame*>(&container);
+  return frame ? frame->BackColor.get() : White;
+}
+
 }  // namespace
 
 LabelWidget::LabelWidget(Label& owner, QWidget& parent) : QLabel(&parent), control(&owner) {
@@ -137,16 +145,22 @@ ImageWidget::ImageWidget(ImageControl& owner, QWidget& parent) : QLabel(&parent)
 
 void ImageWidget::sync(Aspect aspect) {
   if (aspect == Aspect::Look) {
-    const Picture& own = control->Picture;
-    picture_ = own.empty() ? artPixmap(control->PictureName)
-                           : QPixmap::fromImage(wrapped(*own.bitmap()).copy());
+    takePicture();
     update();
   }
   applyCommon(*this, *control, aspect);
 }
 
+void ImageWidget::takePicture() {
+  const Picture& own = control->Picture;
+  ground_ = groundOf(control->container());
+  picture_ = own.empty() ? artPixmap(control->PictureName)
+                         : QPixmap::fromImage(wrapped(*own.over(toPixel(ground_))).copy());
+}
+
 void ImageWidget::paintEvent(QPaintEvent*) {
   if (!control) return;
+  if (ground_ != groundOf(control->container())) takePicture();
   QPainter painter(this);
   const QRect inner = control->Border ? rect().adjusted(2, 2, -2, -2) : rect();
   // A picture that fits is enlarged to its place in the program's own pixels, so that it is the

@@ -49,7 +49,10 @@ class ImageWidget : public QLabel {
   void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:
+  void takePicture();
+
   QPixmap picture_;
+  Color ground_ = White;  ///< what the picture was mixed with
 };
 
 class ProgressWidget : public QProgressBar {

@@ -2,6 +2,7 @@
 // itself goes to the widget silently.
 #include "surface/qt/input_widgets.h"
 
+#include <QAbstractItemView>
 #include <QPainter>
 #include <QSignalBlocker>
 
@@ -182,7 +183,10 @@ ComboWidget::ComboWidget(ComboBox& owner, QWidget& parent) : QComboBox(&parent),
   });
 }
 
-void ComboWidget::sync(Aspect aspect) { syncList(*this, *control, aspect); }
+void ComboWidget::sync(Aspect aspect) {
+  syncList(*this, *control, aspect);
+  view()->setAccessibleName(accessibleName());
+}
 
 ListWidget::ListWidget(ListBox& owner, QWidget& parent) : QListWidget(&parent), control(&owner) {
   QObject::connect(this, &QListWidget::currentRowChanged, this, [this](int row) {

@@ -1,8 +1,6 @@
 // The sheet on the screen. The bitmap's own memory is painted, without a copy.
 #include "surface/qt/surface_widget.h"
 
-#include <QAccessible>
-#include <QAccessibleWidget>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -14,17 +12,6 @@
 #include "surface/qt/pointer.h"
 
 namespace surface::qt {
-namespace {
-
-QAccessibleInterface* makeAccessible(const QString& className, QObject* object) {
-  if (className != "surface::qt::SurfaceWidget") return nullptr;
-  return new QAccessibleWidget(qobject_cast<QWidget*>(object), QAccessible::Graphic);
-}
-
-}  // namespace
-
-void installSurfaceAccessibility() { QAccessible::installFactory(makeAccessible); }
-
 void paintSurface(QPainter& painter, const DrawingSurface& surface, const QRect& area) {
   if (surface.blank()) {
     painter.fillRect(area, toQColor(surface.BackColor));

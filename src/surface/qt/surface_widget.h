@@ -8,9 +8,8 @@
 namespace surface::qt {
 
 class SurfaceWidget : public QWidget {
-  Q_OBJECT  // its class name tells a screen reader that it is a drawing
-
-      public : SurfaceWidget(PictureBox& owner, QWidget& parent);
+ public:
+  SurfaceWidget(PictureBox& owner, QWidget& parent);
   void sync(Aspect aspect);
 
   PictureBox* control;
@@ -44,8 +43,5 @@ class SurfaceWidgetPeer : public WidgetPeer<SurfaceWidget, SurfacePeer> {
 
 /// Paints a surface's bitmap, or its bare colour as long as nothing was drawn.
 void paintSurface(QPainter& painter, const DrawingSurface& surface, const QRect& area);
-
-/// Tells the accessibility layer about drawing surfaces; once, at the start.
-void installSurfaceAccessibility();
 
 }  // namespace surface::qt

@@ -22,6 +22,7 @@
 #include "surface/form.h"
 #include "surface/host.h"
 #include "surface/numbers.h"
+#include "surface/qt/accessible.h"
 #include "surface/qt/art.h"
 #include "surface/qt/dialogs.h"
 #include "surface/qt/factor.h"
@@ -31,7 +32,6 @@
 #include "surface/qt/pointer.h"
 #include "surface/qt/printing.h"
 #include "surface/qt/signals.h"
-#include "surface/qt/surface_widget.h"
 #include "surface/timer.h"
 
 namespace surface::qt {
@@ -92,8 +92,8 @@ void install() {
   QApplication::setPalette(palette);
   QApplication::setQuitOnLastWindowClosed(false);
   installDutch();
-  installSurfaceAccessibility();
   installExactPointer();
+  installAccessibility();
   setDecimalSeparator(QLocale::system().decimalPoint() == "," ? ',' : '.');
 
   Host& seams = host();
@@ -123,6 +123,14 @@ void install() {
   seams.leaveEventLoop = [] { QCoreApplication::exit(0); };
 }
 
+void endFromOutside(const Program& program) {
+  // Behind the report of an error no handler runs any more, but the drawing is still there.
+  whenIdle([&program] { program.rescue(picturesFolder()); });
+  showPending();
+  dispatch([] { End(); });
+  QCoreApplication::exit(0);
+}
+
 int run(int argc, char** argv, const Program& program) {
   app().Path = folderOf(argv[0]);
   app().Command = joined(argc, argv);
@@ -143,14 +151,7 @@ int run(int argc, char** argv, const Program& program) {
         session.release();
       },
       Qt::DirectConnection);
-  whenAskedToEnd([&program] {
-    dispatch([&program] {
-      program.rescue(picturesFolder());
-      End();
-    });
-    // Also behind the report of an error, which lets no event in.
-    QCoreApplication::exit(0);
-  });
+  whenAskedToEnd([&program] { endFromOutside(program); });
   QTimer::singleShot(0, [&program] { dispatch(program.start); });
   // Decoding the icon would hold the first window up; a tenth of a second later nobody waits.
   QTimer::singleShot(100, [] { QApplication::setWindowIcon(programIcon()); });

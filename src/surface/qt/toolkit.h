@@ -18,6 +18,10 @@ struct Program {
   std::function<void(const std::string& pictures)> rescue;
 };
 
+/// The system ends the program: rescues the drawings and leaves the event loop, whatever dialog or
+/// report is open.
+void endFromOutside(const Program& program);
+
 /// Runs the program: makes the application, fills in the seams, starts the program and then the
 /// event loop. Gives the exit status: 0 when the program ended by itself, by its last window or by
 /// the system, 1 when there is no screen to show it on.
