@@ -5,6 +5,7 @@ using namespace surface;
 
 frmEinde::frmEinde() : Form({.Caption = "KRAS PRET", .BackColor = 0xC0FFC0, .Maximised = true}) {
   Image9.AccessibleName = "welkomstprent";
+  txtNaam2.AccessibleName = "je naam";
   Timer1.Timer = [this] { Timer1_Timer(); };
 }
 
