@@ -128,7 +128,6 @@ void endFromOutside(const Program& program) {
   whenIdle([&program] { program.rescue(picturesFolder()); });
   showPending();
   dispatch([] { End(); });
-  QCoreApplication::exit(0);
 }
 
 int run(int argc, char** argv, const Program& program) {
@@ -151,7 +150,10 @@ int run(int argc, char** argv, const Program& program) {
         session.release();
       },
       Qt::DirectConnection);
-  whenAskedToEnd([&program] { endFromOutside(program); });
+  whenAskedToEnd([&program] {
+    endFromOutside(program);
+    QCoreApplication::exit(0);
+  });
   QTimer::singleShot(0, [&program] { dispatch(program.start); });
   // Decoding the icon would hold the first window up; a tenth of a second later nobody waits.
   QTimer::singleShot(100, [] { QApplication::setWindowIcon(programIcon()); });

@@ -18,8 +18,8 @@ struct Program {
   std::function<void(const std::string& pictures)> rescue;
 };
 
-/// The system ends the program: rescues the drawings and leaves the event loop, whatever dialog or
-/// report is open.
+/// The system ends the program: rescues the drawings, whatever dialog or report is open, and lets
+/// no handler run any more.
 void endFromOutside(const Program& program);
 
 /// Runs the program: makes the application, fills in the seams, starts the program and then the
