@@ -2,6 +2,7 @@
 #include "shell/frmStart.h"
 
 #include "course/frmCursus.h"
+#include "fantasy/frmFantasie.h"
 #include "info/frmGebruik.h"
 #include "info/frmInfo.h"
 #include "shell/frmEinde.h"
@@ -18,6 +19,7 @@ frmStart::frmStart() : Form({.Caption = "KRAS PRET", .BackColor = 0xC0FFC0, .Max
   cmdKleurplaten.Click = [this] { openNew<frmKleurplaat>(); };
   Command1.Click = [this] { openNew<frmCursus>(); };
   cmdTekenen2.Click = [this] { cmdTekenen2_Click(); };
+  cmdFantasie.Click = [this] { openNew<frmFantasie>(); };
   cmdOlmwerk.Click = [this] { openNew<frmGebruik>(); };
   cmdInfo.Click = [this] { cmdInfo_Click(); };
   cmdEinde.Click = [this] { cmdEinde_Click(); };

@@ -8,7 +8,8 @@
 /// Set while the magnifier is open.
 extern std::int16_t ZoomOpen;
 
-/// The column and row at which the last replacement of colours ended; 0 before the first.
+/// The column and the row at which the last replacement of colours ended; 0 before the first. The
+/// worms start from there.
 extern double ScanKolom;
 extern std::int16_t ScanRij;
 

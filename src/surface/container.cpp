@@ -21,8 +21,9 @@ void Container::setScaleInner(int width, int height) {
 
 void Container::setScale(const Scale& scale) {
   const Scale former = std::exchange(scale_, scale);
-  // Places in a unit of a fixed length stay as they are.
-  if (scale_.unit() == former.unit() && scale_.unit() != ScaleUser) return;
+  // Places in a unit of a fixed length stay as they are, and so do all when an animation sets the
+  // same scale with every tick.
+  if (scale_ == former || (scale_.unit() == former.unit() && scale_.unit() != ScaleUser)) return;
   for (Control* control : controls_) control->rescaled(former, scale_);
 }
 

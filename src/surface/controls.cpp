@@ -291,8 +291,8 @@ void PictureBox::resized() {
   setInnerSize(place.width(), place.height());
 }
 
-void PictureBox::showPixels(const raster::Rect& area, bool atOnce) {
-  if (auto* shown = static_cast<SurfacePeer*>(peer())) shown->showPixels(area, atOnce);
+void PictureBox::showPixels(std::span<const raster::Rect> areas, bool atOnce) {
+  if (auto* shown = static_cast<SurfacePeer*>(peer())) shown->showPixels(areas, atOnce);
 }
 
 }  // namespace surface

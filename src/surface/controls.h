@@ -17,7 +17,7 @@ namespace surface {
 /// The widget of a surface.
 class SurfacePeer : public Peer {
  public:
-  virtual void showPixels(const raster::Rect& area, bool atOnce) = 0;
+  virtual void showPixels(std::span<const raster::Rect> areas, bool atOnce) = 0;
 };
 
 /// A push button. A caption that is too long breaks at blanks; runs of blanks are kept, and `&`
@@ -402,7 +402,7 @@ class PictureBox : public Control, public DrawingSurface {
 
  protected:
   void resized() override;
-  void showPixels(const raster::Rect& area, bool atOnce) override;
+  void showPixels(std::span<const raster::Rect> areas, bool atOnce) override;
 };
 
 /// Controls with one name, told apart by an Index from 0; one handler serves all.

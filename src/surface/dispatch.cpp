@@ -98,6 +98,12 @@ void whenIdle(std::function<void()> action) {
 
 void showPending() { runAll(repaints); }
 
+void DoEvents() {
+  showPending();
+  if (host().doEvents) host().doEvents();
+  if (hasEnded) throw ProgramEnd{};
+}
+
 void dispatch(const std::function<void()>& handler) {
   if (hasEnded) return;
   guarded([&] {

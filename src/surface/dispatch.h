@@ -34,6 +34,10 @@ void whenIdle(std::function<void()> action);
 /// Does now what whenIdle has put off: before a dialog opens.
 void showPending();
 
+/// Lets the events that wait be handled in the middle of a handler, and shows what it has drawn.
+/// Ends the handler if one of them has ended the program.
+void DoEvents();
+
 /// The one entry from the toolkit. Runs `handler`; an untrapped error is shown in the platform's
 /// error report and ends the program, End() ends it silently. After the end no handler runs any
 /// more.

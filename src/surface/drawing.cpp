@@ -81,11 +81,12 @@ PointF DrawingSurface::toScale(int pixelX, int pixelY) const {
 }
 
 inline raster::Pen DrawingSurface::pen(Color color) const {
-  const auto style = DrawStyle == 0   ? raster::PenStyle::Solid
-                     : DrawStyle == 5 ? raster::PenStyle::Null
-                     : DrawStyle == 2 ? raster::PenStyle::Dotted
-                                      : raster::PenStyle::Solid;
-  return {style, std::min<int>(DrawWidth, 200), toPixel(color)};
+  using raster::PenStyle;
+  // The last one, solid inside the frame, moves nothing at width 1.
+  static constexpr PenStyle styles[] = {PenStyle::Solid,   PenStyle::Dashed,     PenStyle::Dotted,
+                                        PenStyle::DashDot, PenStyle::DashDotDot, PenStyle::Null,
+                                        PenStyle::Solid};
+  return {styles[DrawStyle], std::min<int>(DrawWidth, 200), toPixel(color)};
 }
 
 raster::Brush DrawingSurface::brush() const {
@@ -105,7 +106,7 @@ void DrawingSurface::Line(PointF from, PointF to, std::optional<Color> color, Bo
   const Pixels a = pixelsOf(from), b = pixelsOf(to);
   switch (flag) {
     case BoxFlag::None:
-      damage(raster::line(target(), pen(ink), a.x, a.y, b.x, b.y));
+      damageLine(raster::line(target(), pen(ink), a.x, a.y, b.x, b.y), a, b);
       break;
     case BoxFlag::B:
       damage(raster::box(target(), pen(ink), brush(), a.x, a.y, b.x, b.y));
@@ -113,6 +114,24 @@ void DrawingSurface::Line(PointF from, PointF to, std::optional<Color> color, Bo
     case BoxFlag::BF:
       damage(raster::filledBox(target(), pen(ink), a.x, a.y, b.x, b.y));
       break;
+  }
+}
+
+// A long line crosses few of the tiles that its box holds, so it is taken in pieces.
+void DrawingSurface::damageLine(const raster::Rect& changed, Pixels from, Pixels to) {
+  const int shorter = std::min(changed.width(), changed.height());
+  if (shorter <= 2 * Tiles::Side) return damage(changed);
+  const double dx = to.x - from.x, dy = to.y - from.y;
+  const int pieces = static_cast<int>(std::max(std::abs(dx), std::abs(dy))) / Tiles::Side + 1;
+  const int reach = DrawWidth / 2 + 1;
+  int x = from.x, y = from.y;
+  for (int i = 1; i <= pieces; ++i) {
+    const int nextX = from.x + static_cast<int>(dx * i / pieces);
+    const int nextY = from.y + static_cast<int>(dy * i / pieces);
+    damage(intersect(changed, {std::min(x, nextX) - reach, std::min(y, nextY) - reach,
+                               std::max(x, nextX) + reach + 1, std::max(y, nextY) + reach + 1}));
+    x = nextX;
+    y = nextY;
   }
 }
 
@@ -146,9 +165,10 @@ void DrawingSurface::Circle(PointF centre, float radius, std::optional<Color> co
   if (ink == NoColor) return;
   double rx = radius * std::abs(scale().pixelsPerUnitX());
   double ry = rx;
-  // A circle keeps the fraction of its radius, so that concentric ones half a pixel apart close to
-  // a disc; an ellipse meets whole pixels at its four ends.
-  if (aspect != 1) {
+  // A circle told in pixels keeps the fraction of its radius, so that concentric ones half a pixel
+  // apart close to a disc; any other unit becomes whole pixels, and an ellipse meets them at its
+  // four ends.
+  if (aspect != 1 || ScaleMode() != ScalePixels) {
     rx = roundEven(aspect > 1 ? rx / aspect : rx);
     ry = roundEven(aspect > 1 ? ry : ry * aspect);
   }
@@ -175,7 +195,7 @@ Color DrawingSurface::Point(PointF at) const {
 void DrawingSurface::Cls() {
   CurrentX = ScaleLeft();
   CurrentY = ScaleTop();
-  erase();
+  clear();
 }
 
 void DrawingSurface::PaintPicture(const surface::Picture& picture, PointF to,
@@ -203,7 +223,7 @@ void DrawingSurface::Print(const std::string& text) {
   CurrentY += static_cast<float>(mask.lineHeight / scale().pixelsPerUnitY());
 }
 
-void DrawingSurface::Refresh() { showPixels(inner_, true); }
+void DrawingSurface::Refresh() { showPixels({&inner_, 1}, true); }
 
 surface::Picture DrawingSurface::Image() const { return surface::Picture(bitmap()); }
 
@@ -244,7 +264,19 @@ std::shared_ptr<const raster::Bitmap> DrawingSurface::composed() const {
 
 void DrawingSurface::erase() {
   bitmap_.reset();
+  tiles_.reset(inner_.width(), inner_.height());
   damage(inner_);
+}
+
+// Clears what was painted, and nothing where nothing was: a few stars on a large window.
+void DrawingSurface::clear() {
+  if (bitmap_.use_count() != 1 || !Picture->empty()) return erase();
+  raster::Bitmap& bitmap = writableBitmap();
+  const raster::Pen pen{raster::PenStyle::Solid, 1, toPixel(BackColor)};
+  const bool waiting = tiles_.unshown();
+  for (const raster::Rect& area : tiles_.clear())
+    raster::filledBox({bitmap}, pen, area.left, area.top, area.right - 1, area.bottom - 1);
+  if (!waiting) showLater();
 }
 
 void DrawingSurface::setInnerSize(int width, int height) {
@@ -263,22 +295,19 @@ void DrawingSurface::setInnerSize(int width, int height) {
     raster::blit(*resized, 0, 0, former->width(), former->height(), *former, 0, 0);
     bitmap_ = std::move(resized);
   }
+  tiles_.reset(width, height);
   damage(inner_);
 }
 
-void DrawingSurface::growDamage(const raster::Rect& area) {
-  if (area.empty()) return;
-  const bool first = damage_.empty();
-  damage_ = unite(damage_, area);
-  if (!first) return;
+void DrawingSurface::showLater() {
+  if (!tiles_.unshown()) return;
   whenIdle([this, alive = std::weak_ptr<bool>(alive_)] {
     if (!alive.expired()) showDamage();
   });
 }
 
 void DrawingSurface::showDamage() {
-  const raster::Rect area = std::exchange(damage_, {});
-  showPixels(area, false);
+  if (const auto areas = tiles_.takeUnshown(); !areas.empty()) showPixels(areas, false);
 }
 
 }  // namespace surface

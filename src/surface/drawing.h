@@ -17,6 +17,7 @@
 #include "surface/prop.h"
 #include "surface/raster/bitmap.h"
 #include "surface/raster/draw.h"
+#include "surface/tiles.h"
 
 namespace surface {
 
@@ -66,7 +67,7 @@ class DrawingSurface : public Container {
       FillStyle;  ///< 0 solid, 1 transparent, 2..7 hatches
   Prop<int, &DrawingSurface::unchanged, check::drawWidth> DrawWidth;  ///< pixels, 1 and up
   Prop<int, &DrawingSurface::unchanged, check::drawStyle>
-      DrawStyle;  ///< 0 solid, 2 dotted, 5 nothing
+      DrawStyle;  ///< 0 solid, 1 dashes, 2 dots, 3 and 4 dashes with dots, 5 nothing, 6 solid
   Prop<int, &DrawingSurface::unchanged, check::drawMode> DrawMode;  ///< 1..16, 13 copies, 6 inverts
   bool AutoRedraw = false;
   surface::Font Font;
@@ -109,9 +110,9 @@ class DrawingSurface : public Container {
   raster::Target target() { return {writableBitmap(), DrawMode}; }
   /// Tells that a rectangle of pixels has changed; it is shown when the thread is next idle.
   void damage(const raster::Rect& area) {
-    const bool known = area.left >= damage_.left && area.top >= damage_.top &&
-                       area.right <= damage_.right && area.bottom <= damage_.bottom;
-    if (!known) growDamage(area);
+    const bool waiting = tiles_.unshown();
+    tiles_.paint(area);
+    if (!waiting) showLater();
   }
   PointF toScale(int pixelX, int pixelY) const;
   const raster::Rect& innerPixels() const { return inner_; }
@@ -120,8 +121,8 @@ class DrawingSurface : public Container {
   /// Sets the inner size in pixels: what is drawn stays, new area shows the BackColor. OutOfMemory
   /// beyond 32767 a side or 64 million pixels in all; the size is then as before.
   void setInnerSize(int width, int height);
-  /// Asks the screen to show a rectangle of pixels, now or when idle.
-  virtual void showPixels(const raster::Rect& area, bool atOnce) = 0;
+  /// Asks the screen to show rectangles of pixels, now or when idle; they do not overlap.
+  virtual void showPixels(std::span<const raster::Rect> areas, bool atOnce) = 0;
 
  private:
   struct Pixels {
@@ -132,14 +133,16 @@ class DrawingSurface : public Container {
   Pixels pixelsOf(PointF at) const;
   std::vector<raster::Spot> spotsOf(std::span<const PointF> points) const;
   raster::Pen pen(Color color) const;
-  void growDamage(const raster::Rect& area);
+  void damageLine(const raster::Rect& changed, Pixels from, Pixels to);
+  void clear();
+  void showLater();
   void showDamage();
 
   raster::Rect inner_;
   /// The persistent bitmap, made when it is first needed: until something is drawn, BackColor and
   /// Picture say it all. Shared with snapshots; copied at the first write after one.
   mutable std::shared_ptr<const raster::Bitmap> bitmap_;
-  raster::Rect damage_;
+  Tiles tiles_;
   std::shared_ptr<bool> alive_;
 };
 

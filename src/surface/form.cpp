@@ -44,6 +44,10 @@ Form::Form(const Design& design)
       Centred(design.Centred),
       BorderStyle(design.BorderStyle) {
   setInnerSize(innerPixel(Width, FrameWidth), innerPixel(Height, FrameHeight));
+  if (!Maximised || !host().maximisedSize) return;
+  // Known before the window is: the first figures of an animation are spread over it.
+  if (const raster::Rect size = host().maximisedSize(); !size.empty())
+    takeSize(size.width(), size.height());
 }
 
 Form::~Form() = default;
@@ -71,6 +75,7 @@ raster::Rect Form::windowPlace() const {
 void Form::Show() {
   if (!peer_) peer_ = host().makeForm(*this);
   shown_ = true;
+  if (!std::exchange(sized_, true)) Resize();
   peer_->show();
 }
 
@@ -89,6 +94,12 @@ void Form::controlShown(Control& control) {
 }
 
 void Form::windowResized(int width, int height) {
+  const raster::Rect former = innerPixels();
+  takeSize(width, height);
+  if (sized_ && innerPixels() != former) Resize();
+}
+
+void Form::takeSize(int width, int height) {
   setInnerSize(width, height);
   Width.setQuietly(static_cast<float>(width * TwipsPerPixel) + FrameWidth);
   Height.setQuietly(static_cast<float>(height * TwipsPerPixel) + FrameHeight);
@@ -110,8 +121,8 @@ void Form::closeBoxPressed() {
   if (!registry.anyVisible() && registry.noWindowLeft) registry.noWindowLeft();
 }
 
-void Form::showPixels(const raster::Rect& area, bool atOnce) {
-  if (peer_) peer_->showPixels(area, atOnce);
+void Form::showPixels(std::span<const raster::Rect> areas, bool atOnce) {
+  if (peer_) peer_->showPixels(areas, atOnce);
 }
 
 FormRegistry& FormRegistry::instance() {

@@ -51,7 +51,7 @@ class FormPeer {
   /// The model has given the window another size: it stays where it stands, or in the middle of the
   /// screen if it is a centred one that nobody has moved.
   virtual void resize() = 0;
-  virtual void showPixels(const raster::Rect& area, bool atOnce) = 0;
+  virtual void showPixels(std::span<const raster::Rect> areas, bool atOnce) = 0;
 };
 
 class Form : public DrawingSurface {
@@ -115,6 +115,8 @@ class Form : public DrawingSurface {
 
   Event<> Load;
   Event<> FormUnload;
+  /// The window has its size: when it is first shown, and after each change.
+  Event<> Resize;
   Event<Mouse> MouseUp;
   /// The window's close box; without a handler it unloads the form.
   Event<> CloseBox;
@@ -154,12 +156,14 @@ class Form : public DrawingSurface {
   bool unloading() const { return unloading_; }
 
  protected:
-  void showPixels(const raster::Rect& area, bool atOnce) override;
+  void showPixels(std::span<const raster::Rect> areas, bool atOnce) override;
 
  private:
   friend class FormRegistry;
+  void takeSize(int width, int height);
   std::unique_ptr<FormPeer> peer_;
   bool shown_ = false;
+  bool sized_ = false;
   bool topMost_ = false;
   bool placed_ = false;
   bool unloading_ = false;

@@ -48,9 +48,12 @@ struct Host {
   std::function<TextMask(const Font&, const std::string& text)> rasterText;
   std::function<std::vector<std::string>()> screenFonts;
   std::function<raster::Rect()> screen;  ///< the whole of it, pixels
-  std::function<std::int64_t()> clock;   ///< milliseconds, never backwards
-  std::function<std::uint64_t()> seed;   ///< something that differs from call to call
-  std::function<void()> timersChanged;   ///< the time of the next tick may have changed
+  /// The inner size of a maximised window, pixels; empty if nothing tells it.
+  std::function<raster::Rect()> maximisedSize;
+  std::function<std::int64_t()> clock;  ///< milliseconds, never backwards
+  std::function<std::uint64_t()> seed;  ///< the clock, as fine as it is
+  std::function<void()> timersChanged;  ///< the time of the next tick may have changed
+  std::function<void()> doEvents;       ///< handles the events that wait
   /// An error that no handler trapped; `ends` tells whether the program stops with it.
   std::function<void(const std::string& text, bool ends)> errorReport;
   /// The same before the program stops with a drawing at stake: it offers to save it, and gives

@@ -18,11 +18,13 @@ float ScaleY(float value, ScaleUnit from, ScaleUnit to);
 struct PointF {
   float X = 0;
   float Y = 0;
+  friend bool operator==(const PointF&, const PointF&) = default;
 };
 
 struct SizeF {
   float Width = 0;
   float Height = 0;
+  friend bool operator==(const SizeF&, const SizeF&) = default;
 };
 
 /// A scale of the program's own: what the upper left corner of the inner area is called, and how
@@ -31,6 +33,7 @@ struct SizeF {
 struct UserScale {
   PointF Origin = {};
   SizeF Extent = {};
+  friend bool operator==(const UserScale&, const UserScale&) = default;
 };
 
 /// A unit together with the inner size in pixels, which a user scale is stretched over.
@@ -62,6 +65,8 @@ class Scale {
   void setInner(int width, int height);
   /// BadPropertyValue for an extent of 0.
   void setUser(const UserScale& user);
+
+  friend bool operator==(const Scale&, const Scale&) = default;
 
  private:
   void measure();

@@ -22,6 +22,13 @@ bool exists(const TimerControl* timer) {
   return std::find(timers().begin(), timers().end(), timer) != timers().end();
 }
 
+TimerControl* nextTimer() {
+  TimerControl* next = nullptr;
+  for (TimerControl* timer : timers())
+    if (timer->runs() && (!next || timer->due() < next->due())) next = timer;
+  return next;
+}
+
 void tellHost() {
   if (host().timersChanged) host().timersChanged();
 }
@@ -52,12 +59,10 @@ void TimerControl::restart() {
   tellHost();
 }
 
-void fireDueTimers() {
+void fireDueTimer() {
   const std::int64_t now = host().clock();
-  // A tick may make or destroy timers, so only those that still exist are fired.
-  const auto before = timers();
-  for (TimerControl* timer : before) {
-    if (!exists(timer) || !timer->runs() || timer->due_ > now) continue;
+  TimerControl* const timer = nextTimer();
+  if (timer && timer->due_ <= now) {
     timer->due_ += timer->period();
     if (timer->due_ <= now) timer->due_ = now + timer->period();
     timer->firing_ = true;
@@ -71,10 +76,8 @@ void fireDueTimers() {
 }
 
 std::optional<std::int64_t> nextTimerDue() {
-  std::optional<std::int64_t> next;
-  for (const TimerControl* timer : timers())
-    if (timer->runs() && (!next || timer->due() < *next)) next = timer->due();
-  return next;
+  const TimerControl* next = nextTimer();
+  return next ? std::optional(next->due()) : std::nullopt;
 }
 
 }  // namespace surface

@@ -37,7 +37,7 @@ class TimerControl {
   std::int64_t due() const { return due_; }
 
  private:
-  friend void fireDueTimers();
+  friend void fireDueTimer();
   TimerControl(const Form* form, const Design& design);
   std::int64_t period() const;
 
@@ -46,8 +46,9 @@ class TimerControl {
   std::int64_t due_ = 0;
 };
 
-/// Fires, once each, the timers that are due by the clock. For the event loop when it is idle.
-void fireDueTimers();
+/// Fires the timer that has been due for longest by the clock; of two, the one that was declared
+/// first. For the event loop when it is idle: it shows what a tick has drawn before the next one.
+void fireDueTimer();
 /// The clock's milliseconds at which the next timer is due, if one runs.
 std::optional<std::int64_t> nextTimerDue();
 

@@ -134,7 +134,7 @@ void Stage::advance(std::int64_t milliseconds) {
     const auto due = nextTimerDue();
     if (!due || *due > until) break;
     now_ = std::max(now_, *due);
-    fireDueTimers();
+    fireDueTimer();
   }
   now_ = until;
   settle();

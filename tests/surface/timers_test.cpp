@@ -74,13 +74,13 @@ TEST_F(Timers, ALateTickComesOnce) {
   int ticks = 0;
   count(timer, ticks);
   beBusy(1030);
-  fireDueTimers();
+  fireDueTimer();
   EXPECT_EQ(ticks, 1);
-  fireDueTimers();
+  fireDueTimer();
   EXPECT_EQ(ticks, 1) << "a burst";
   // From then on the beat goes on.
   beBusy(100);
-  fireDueTimers();
+  fireDueTimer();
   EXPECT_EQ(ticks, 2);
 }
 
@@ -89,9 +89,9 @@ TEST_F(Timers, ATickThatIsALittleLateDoesNotShiftTheBeat) {
   int ticks = 0;
   count(timer, ticks);
   beBusy(130);
-  fireDueTimers();
+  fireDueTimer();
   beBusy(70);
-  fireDueTimers();
+  fireDueTimer();
   EXPECT_EQ(ticks, 2);
 }
 

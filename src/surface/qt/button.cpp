@@ -40,6 +40,7 @@ void drawClassicEdge(QPainter& painter, const QRect& area, bool sunken) {
 
 ButtonWidget::ButtonWidget(CommandButton& owner, QWidget& parent)
     : QPushButton(&parent), control(&owner) {
+  setAttribute(Qt::WA_OpaquePaintEvent);
   setAutoDefault(false);
   QObject::connect(this, &QPushButton::clicked, this, [this] {
     if (control) dispatch([this] { control->Click(); });

@@ -57,6 +57,7 @@ Color groundOf(const Container& container) {
 }  // namespace
 
 LabelWidget::LabelWidget(Label& owner, QWidget& parent) : QLabel(&parent), control(&owner) {
+  setAttribute(Qt::WA_OpaquePaintEvent);
   setTextFormat(Qt::PlainText);
   setAttribute(Qt::WA_TransparentForMouseEvents, owner.Framed);
 }

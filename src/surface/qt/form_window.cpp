@@ -2,6 +2,7 @@
 #include "surface/qt/form_window.h"
 
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScreen>
@@ -32,7 +33,7 @@ Qt::WindowFlags flagsOf(const Form& form) {
 // What the controls need that can be seen at some time, within the size that the form is made for:
 // a sheet that has grown beyond it does not make the window scroll.
 QSize leastSize(const Form& form) {
-  const raster::Rect design = form.innerPixels();
+  const raster::Rect design = form.designPixels();
   raster::Rect needed;
   for (Control* control : form.controls())
     if (control->Visible || dynamic_cast<const Frame*>(control))
@@ -50,6 +51,11 @@ void addStops(Container& container, const Control* first, std::vector<QWidget*>&
     if (control != first) addStop(*control, stops);
     if (Container* inner = control->asContainer()) addStops(*inner, first, stops);
   }
+}
+
+QSize& lastMaximised() {
+  static QSize size;
+  return size;
 }
 
 class FormWindowPeer : public FormPeer {
@@ -78,8 +84,8 @@ class FormWindowPeer : public FormPeer {
   void update() override { window_->sync(); }
   void move() override { window_->place(); }
   void resize() override { window_->fit(); }
-  void showPixels(const raster::Rect& area, bool atOnce) override {
-    qt::showPixels(window_->canvas(), area, atOnce);
+  void showPixels(std::span<const raster::Rect> areas, bool atOnce) override {
+    qt::showPixels(window_->canvas(), areas, atOnce);
   }
 
  private:
@@ -92,6 +98,13 @@ std::unique_ptr<FormPeer> makeFormPeer(Form& form) {
   return std::make_unique<FormWindowPeer>(form);
 }
 
+raster::Rect maximisedSize() {
+  const QSize size = lastMaximised().isEmpty()
+                         ? QGuiApplication::primaryScreen()->availableGeometry().size()
+                         : lastMaximised();
+  return {0, 0, size.width(), size.height()};
+}
+
 FormCanvas::FormCanvas(FormWindow& owner) : window_(owner) {
   setAttribute(Qt::WA_OpaquePaintEvent);
 }
@@ -99,7 +112,7 @@ FormCanvas::FormCanvas(FormWindow& owner) : window_(owner) {
 void FormCanvas::paintEvent(QPaintEvent* event) {
   if (!window_.form) return;
   QPainter painter(this);
-  paintSurface(painter, *window_.form, event->rect());
+  for (const QRect& area : event->region()) paintSurface(painter, *window_.form, area);
 }
 
 void FormCanvas::resizeEvent(QResizeEvent* event) {
@@ -188,7 +201,10 @@ void FormWindow::closeEvent(QCloseEvent* event) {
   if (form) dispatch([this] { form->closeBoxPressed(); });
 }
 
-void FormWindow::resizeEvent(QResizeEvent*) { scroll_->setGeometry(rect()); }
+void FormWindow::resizeEvent(QResizeEvent* event) {
+  if (isMaximized()) lastMaximised() = event->size();
+  scroll_->setGeometry(rect());
+}
 
 void FormWindow::moveEvent(QMoveEvent*) {
   if (form && !isMaximized()) form->windowMoved(pos().x(), pos().y());

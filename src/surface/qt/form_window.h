@@ -58,4 +58,8 @@ class FormWindow : public QWidget {
 
 std::unique_ptr<FormPeer> makeFormPeer(Form& form);
 
+/// The inner size of a maximised window: that of the last one, and what the screen offers before
+/// there was any.
+raster::Rect maximisedSize();
+
 }  // namespace surface::qt

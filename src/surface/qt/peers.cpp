@@ -3,6 +3,7 @@
 
 #include <QAbstractScrollArea>
 #include <algorithm>
+#include <vector>
 
 #include "surface/form.h"
 #include "surface/qt/button.h"
@@ -80,14 +81,6 @@ std::unique_ptr<Peer> makePeer(Control& control, QWidget& parent) {
   return made;
 }
 
-void showPixels(QWidget& widget, const raster::Rect& area, bool atOnce) {
-  const QRect shown = damaged(toQRect(area), widget.devicePixelRatioF());
-  if (atOnce)
-    widget.repaint(shown);
-  else
-    widget.update(shown);
-}
-
 void makePeers(const Container& container, QWidget& parent) {
   for (Control* control : container.controls())
     if (control->Visible) control->setPeer(makePeer(*control, parent));
@@ -134,6 +127,36 @@ void applyCommon(QWidget& widget, const Control& control, Aspect aspect,
     case Aspect::Value:
       break;
   }
+}
+
+namespace {
+
+bool hides(const QObject* object) {
+  const auto* widget = qobject_cast<const QWidget*>(object);
+  return widget && widget->isVisible() &&
+         (widget->testAttribute(Qt::WA_OpaquePaintEvent) || widget->autoFillBackground());
+}
+
+void subtract(QRegion& region, const QObject* object, const QPoint& origin) {
+  if (hides(object)) region -= static_cast<const QWidget*>(object)->geometry().translated(-origin);
+}
+
+}  // namespace
+
+void showPixels(QWidget& widget, std::span<const raster::Rect> areas, bool atOnce) {
+  QRegion region;
+  for (const raster::Rect& area : areas)
+    region += damaged(toQRect(area), widget.devicePixelRatioF());
+  for (const QObject* child : widget.children()) subtract(region, child, {});
+  if (!widget.isWindow()) {
+    const auto& neighbours = widget.parentWidget()->children();
+    auto above = std::find(neighbours.begin(), neighbours.end(), &widget);
+    while (++above != neighbours.end()) subtract(region, *above, widget.pos());
+  }
+  if (atOnce)
+    widget.repaint(region);
+  else
+    widget.update(region);
 }
 
 }  // namespace surface::qt

@@ -6,6 +6,7 @@
 #include <QPointer>
 #include <QWidget>
 #include <memory>
+#include <span>
 
 #include "surface/controls.h"
 #include "surface/event.h"
@@ -16,9 +17,6 @@ namespace surface::qt {
 inline QColor toQColor(Color color) { return QColor::fromRgb(toPixel(color)); }
 
 inline QRect toQRect(const raster::Rect& r) { return QRect(r.left, r.top, r.width(), r.height()); }
-
-/// Shows a rectangle of pixels, now or when the thread is next idle.
-void showPixels(QWidget& widget, const raster::Rect& area, bool atOnce);
 
 /// Makes the widget of a control inside `parent`.
 std::unique_ptr<Peer> makePeer(Control& control, QWidget& parent);
@@ -35,6 +33,10 @@ QWidget* widgetOf(const Control& control);
 /// Takes place, visibility, enabled state, pointer, tooltip and spoken name over to a widget.
 void applyCommon(QWidget& widget, const Control& control, Aspect aspect,
                  const QString& spokenText = {});
+
+/// Repaints parts of a widget's drawing, now or when idle. What opaque widgets above it hide is
+/// left out, or an animation would paint the buttons over it with every tick.
+void showPixels(QWidget& widget, std::span<const raster::Rect> areas, bool atOnce);
 
 /// The toolkit's side of every peer.
 class HasWidget {

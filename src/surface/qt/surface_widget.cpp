@@ -45,7 +45,7 @@ void SurfaceWidget::sync(Aspect aspect) {
 void SurfaceWidget::paintEvent(QPaintEvent* event) {
   if (!control) return;
   QPainter painter(this);
-  paintSurface(painter, *control, event->rect());
+  for (const QRect& area : event->region()) paintSurface(painter, *control, area);
   if (control->Raised) drawClassicEdge(painter, rect(), control->Pressed);
   if (hasFocus()) paintFocus(painter);
 }

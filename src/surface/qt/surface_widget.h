@@ -36,8 +36,8 @@ class SurfaceWidget : public QWidget {
 class SurfaceWidgetPeer : public WidgetPeer<SurfaceWidget, SurfacePeer> {
  public:
   using WidgetPeer::WidgetPeer;
-  void showPixels(const raster::Rect& area, bool atOnce) override {
-    if (widget_) qt::showPixels(*widget_, area, atOnce);
+  void showPixels(std::span<const raster::Rect> areas, bool atOnce) override {
+    if (widget_) qt::showPixels(*widget_, areas, atOnce);
   }
 };
 

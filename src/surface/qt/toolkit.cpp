@@ -7,12 +7,12 @@
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QLocale>
-#include <QRandomGenerator>
 #include <QScreen>
 #include <QSessionManager>
 #include <QStandardPaths>
 #include <QTimer>
 #include <algorithm>
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <string>
@@ -52,7 +52,7 @@ void scheduleTimers() {
     auto* made = new QTimer(QCoreApplication::instance());
     made->setSingleShot(true);
     made->setTimerType(Qt::PreciseTimer);
-    QObject::connect(made, &QTimer::timeout, [] { fireDueTimers(); });
+    QObject::connect(made, &QTimer::timeout, [] { fireDueTimer(); });
     return made;
   }();
   if (const auto due = nextTimerDue())
@@ -116,7 +116,11 @@ void install() {
   };
   seams.screenFonts = screenFonts;
   seams.clock = milliseconds;
-  seams.seed = [] { return QRandomGenerator::global()->generate64(); };
+  seams.seed = [] {
+    return static_cast<std::uint64_t>(std::chrono::steady_clock::now().time_since_epoch().count());
+  };
+  seams.doEvents = [] { QCoreApplication::processEvents(); };
+  seams.maximisedSize = maximisedSize;
   seams.timersChanged = scheduleTimers;
   seams.errorReport = errorReport;
   seams.errorReportBeforeLoss = errorReportBeforeLoss;

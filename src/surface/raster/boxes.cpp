@@ -41,7 +41,7 @@ Rect fill(const Target& target, const Brush& brush, const Corners& c) {
 }
 
 // Four lines, each without its last point, counterclockwise from the top right corner. A box one
-// pixel wide is painted down and up again, and the dots run on over the corners.
+// pixel wide is painted down and up again, and the gaps run on over the corners.
 Rect thinFrame(const Target& target, const Pen& pen, const Corners& c) {
   const Ink ink = inkOf(target.rop, pen.color);
   if (ink.leaves()) return {};
@@ -49,8 +49,9 @@ Rect thinFrame(const Target& target, const Pen& pen, const Corners& c) {
   const int ys[] = {c.top, c.top, c.bottom, c.bottom, c.top};
   std::int64_t step = 0;
   for (int i = 0; i < 4; ++i) {
-    if (pen.style == PenStyle::Dotted) {
-      dottedThinLine(target.bitmap, ink, xs[i], ys[i], xs[i + 1], ys[i + 1], step);
+    if (hasGaps(pen.style)) {
+      brokenThinLine(target.bitmap, ink, Pattern(pen.style), xs[i], ys[i], xs[i + 1], ys[i + 1],
+                     step);
     } else {
       solidThinLine(target.bitmap, ink, xs[i], ys[i], xs[i + 1], ys[i + 1]);
     }

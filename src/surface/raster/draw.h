@@ -7,9 +7,9 @@
 
 namespace raster {
 
-enum class PenStyle { Solid, Dotted, Null };
+enum class PenStyle { Solid, Dashed, Dotted, DashDot, DashDotDot, Null };
 
-/// The line of a shape. A dotted pen wider than 1 draws solid; a null pen draws nothing.
+/// The line of a shape. A pen with gaps wider than 1 draws solid; a null pen draws nothing.
 struct Pen {
   PenStyle style = PenStyle::Solid;
   int width = 1;  ///< pixels, 1..200

@@ -118,13 +118,14 @@ void solidOutlineInside(Pixel color, const Quarter& quarter, const Place& place)
   });
 }
 
-// The dots run from the right end over the top, counterclockwise. Steps are counted along the
+// The gaps run from the right end over the top, counterclockwise. Steps are counted along the
 // quarter: its mirror images count forth and back.
-void dottedOutline(const SpanPainter& painter, const Quarter& quarter, const Place& place) {
+void brokenOutline(const SpanPainter& painter, Pattern pattern, const Quarter& quarter,
+                   const Place& place) {
   std::int64_t steps = -1;
   forRuns(quarter, {0, quarter.rows()}, [&](int, Run run) { steps += run.last - run.first + 1; });
   const auto dot = [&](int x, int y, std::int64_t step) {
-    if (y >= 0 && y < place.bitmap.height() && isDotOn(step)) painter.span(y, x, x);
+    if (y >= 0 && y < place.bitmap.height() && pattern.isOn(step)) painter.span(y, x, x);
   };
   std::int64_t step = 0;
   forRuns(quarter, {0, place.distances.last}, [&](int j, Run run) {
@@ -145,7 +146,8 @@ Rect flatEllipse(const Target& target, const Pen& pen, int cx, int cy, int rx, i
   if (rx == 0 && ry == 0) return dot(target, pen, cx, cy);
   const Rect body = line(target, pen, cx - rx, cy - ry, cx + rx, cy + ry);
   if (!isThin(pen)) return body;
-  const bool on = pen.style == PenStyle::Solid || isDotOn(2 * std::int64_t{rx + ry});
+  const bool on =
+      pen.style == PenStyle::Solid || Pattern(pen.style).isOn(2 * std::int64_t{rx + ry});
   return on ? unite(body, dot(target, pen, cx + rx, cy + ry)) : body;
 }
 
@@ -167,8 +169,8 @@ Rect thinEllipse(const Target& target, const Pen& pen, const Brush& brush, int c
   const Ink ink = inkOf(target.rop, pen.color);
   if (pen.style == PenStyle::Null || ink.leaves()) return inside.idle() ? Rect{} : area;
   const bool whole = area == Rect{cx - reach, cy - rows, cx + reach + 1, cy + rows + 1};
-  if (pen.style == PenStyle::Dotted) {
-    dottedOutline(SpanPainter(bitmap, ink), quarter, place);
+  if (hasGaps(pen.style)) {
+    brokenOutline(SpanPainter(bitmap, ink), Pattern(pen.style), quarter, place);
   } else if (brushDoesAll(pen, brush, ink)) {
     return area;
   } else if (whole && ink.covers()) {

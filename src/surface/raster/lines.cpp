@@ -14,8 +14,8 @@ namespace {
   if (isWide(pen)) {
     return capsule(SpanPainter(target.bitmap, ink), target.bitmap, pen.width, x1, y1, x2, y2);
   }
-  if (pen.style == PenStyle::Dotted) {
-    dottedThinLine(target.bitmap, ink, x1, y1, x2, y2, 0);
+  if (hasGaps(pen.style)) {
+    brokenThinLine(target.bitmap, ink, Pattern(pen.style), x1, y1, x2, y2, 0);
   } else {
     solidThinLine(target.bitmap, ink, x1, y1, x2, y2);
   }

@@ -244,9 +244,10 @@ void solidThinLine(Bitmap& bitmap, Ink ink, int x1, int y1, int x2, int y2) {
   }
 }
 
-void dottedThinLine(Bitmap& bitmap, Ink ink, int x1, int y1, int x2, int y2, std::int64_t step) {
-  draw(bitmap, x1, y1, x2, y2, [ink, step](Pixel* p, Wide i) {
-    if (isDotOn(step + i)) *p = ink.over(*p);
+void brokenThinLine(Bitmap& bitmap, Ink ink, Pattern pattern, int x1, int y1, int x2, int y2,
+                    std::int64_t step) {
+  draw(bitmap, x1, y1, x2, y2, [ink, pattern, step](Pixel* p, Wide i) {
+    if (pattern.isOn(step + i)) *p = ink.over(*p);
   });
 }
 

@@ -15,7 +15,7 @@ using raster::PenStyle;
 constexpr Pixel kWhite = 0xFFFFFFFF, kBlack = 0xFF000000;
 
 Pen anyPen(Dice& dice) {
-  const PenStyle style = static_cast<PenStyle>(dice.number(0, 2));
+  const PenStyle style = anyStyle(dice);
   return {style, dice.chance(50) ? 1 : penWidth(dice), dice.color()};
 }
 
@@ -44,7 +44,7 @@ TEST(Boxes, AreRightWhenTheyAreTiny) {
   for (int w = 0; w <= 6; ++w) {
     for (int h = 0; h <= 6; ++h) {
       for (int width = 1; width <= 9; ++width) {
-        for (const PenStyle style : {PenStyle::Solid, PenStyle::Dotted, PenStyle::Null}) {
+        for (const PenStyle style : {PenStyle::Solid, PenStyle::DashDot, PenStyle::Null}) {
           expectBox(dice, {style, width, kBlack}, brush(dice), 7, 30 + w, 20, 30, 20 + h);
         }
       }

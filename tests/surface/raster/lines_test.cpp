@@ -27,7 +27,7 @@ void expectLine(Dice& dice, const Pen& pen, int rop, int x1, int y1, int x2, int
 TEST(Lines, ThinLinesHitTheNearestPixelsWhereverTheyStartAndEnd) {
   Dice dice(1);
   for (int i = 0; i < 4000; ++i) {
-    const Pen pen{dice.chance(70) ? PenStyle::Solid : PenStyle::Dotted, 1, dice.color()};
+    const Pen pen{anyStyle(dice), 1, dice.color()};
     expectLine(dice, pen, dice.number(1, 16), coordinate(dice, 61), coordinate(dice, 47),
                coordinate(dice, 61), coordinate(dice, 47));
   }
@@ -66,8 +66,7 @@ TEST(Lines, LongThinLinesAreRightInEveryDirection) {
 TEST(Lines, WideLinesAreTheExactCapsuleRoundTheSegment) {
   Dice dice(3);
   for (int i = 0; i < 3000; ++i) {
-    const Pen pen{dice.chance(80) ? PenStyle::Solid : PenStyle::Dotted, penWidth(dice),
-                  dice.color()};
+    const Pen pen{anyStyle(dice), penWidth(dice), dice.color()};
     expectLine(dice, pen, dice.number(1, 16), coordinate(dice, 61), coordinate(dice, 47),
                coordinate(dice, 61), coordinate(dice, 47));
   }
@@ -136,6 +135,25 @@ TEST(Lines, ThePixelsStayOpaque) {
   }
   for (int y = 0; y < 40; ++y) {
     for (int x = 0; x < 40; ++x) ASSERT_EQ(picture.at(x, y) >> 24, 0xFFu);
+  }
+}
+
+TEST(Lines, PensWithGapsPaintTheStrokesOfThePlatform) {
+  const std::pair<PenStyle, std::string> patterns[] = {
+      {PenStyle::Dashed, "##################......"},
+      {PenStyle::Dotted, "###...###...###...###..."},
+      {PenStyle::DashDot, "#########......###......"},
+      {PenStyle::DashDotDot, "#########...###...###..."}};
+  for (const auto& [style, pattern] : patterns) {
+    Bitmap picture(60, 60, kWhite);
+    raster::line({picture}, {style, 1, kBlack}, 0, 5, 60, 5);
+    raster::line({picture}, {style, 1, kBlack}, 0, 10, 50, 60);
+    for (int i = 0; i < 50; ++i) {
+      const Pixel want =
+          pattern[static_cast<std::size_t>(i) % pattern.size()] == '#' ? kBlack : kWhite;
+      ASSERT_EQ(picture.at(i, 5), want) << i;
+      ASSERT_EQ(picture.at(i, 10 + i), want) << i;
+    }
   }
 }
 

@@ -6,6 +6,7 @@
 #include <cmath>
 #include <cstdlib>
 #include <functional>
+#include <numeric>
 #include <queue>
 #include <utility>
 #include <vector>
@@ -97,11 +98,37 @@ inline std::vector<std::pair<Wide, Wide>> thinLinePixels(int x1, int y1, int x2,
   return pixels;
 }
 
+/// The lengths of a pen's strokes and gaps by turns; none for a pen without gaps.
+inline std::vector<int> strokesAndGaps(PenStyle style) {
+  switch (style) {
+    case PenStyle::Dashed:
+      return {18, 6};
+    case PenStyle::Dotted:
+      return {3, 3};
+    case PenStyle::DashDot:
+      return {9, 6, 3, 6};
+    case PenStyle::DashDotDot:
+      return {9, 3, 3, 3, 3, 3};
+    default:
+      return {};
+  }
+}
+
+inline bool isOn(PenStyle style, Wide step) {
+  const auto lengths = strokesAndGaps(style);
+  if (lengths.empty()) return true;
+  step %= std::accumulate(lengths.begin(), lengths.end(), 0);
+  for (std::size_t i = 0;; i = (i + 1) % lengths.size()) {
+    if (step < lengths[i]) return i % 2 == 0;
+    step -= lengths[i];
+  }
+}
+
 /// Paints pixels in order with a thin pen; the dots go on from `step`, which is returned advanced.
 inline Wide paintInOrder(Target target, const Pen& pen,
                          const std::vector<std::pair<Wide, Wide>>& pixels, Wide step = 0) {
   for (const auto& [x, y] : pixels) {
-    if (pen.style != PenStyle::Dotted || step % 6 < 3) put(target, pen.color, x, y);
+    if (isOn(pen.style, step)) put(target, pen.color, x, y);
     ++step;
   }
   return step;
@@ -198,16 +225,16 @@ class ThinEllipse {
   long double a_, b_;
 };
 
-inline void dottedEllipse(Target target, const Pen& pen, int cx, int cy, const ThinEllipse& shape) {
+inline void brokenEllipse(Target target, const Pen& pen, int cx, int cy, const ThinEllipse& shape) {
   const auto quarter = shape.quarter();
   const Wide last = static_cast<Wide>(quarter.size()) - 1;
   for (Wide i = 0; i <= last; ++i) {
     const auto [x, y] = quarter[i];
     // Each pixel once, at its first step counterclockwise from the right end.
-    if (i % 6 < 3) put(target, pen.color, cx + x, cy - y);
-    if (x != 0 && (2 * last - i) % 6 < 3) put(target, pen.color, cx - x, cy - y);
-    if (y != 0 && (2 * last + i) % 6 < 3) put(target, pen.color, cx - x, cy + y);
-    if (x != 0 && y != 0 && (4 * last - i) % 6 < 3) put(target, pen.color, cx + x, cy + y);
+    if (isOn(pen.style, i)) put(target, pen.color, cx + x, cy - y);
+    if (x != 0 && isOn(pen.style, 2 * last - i)) put(target, pen.color, cx - x, cy - y);
+    if (y != 0 && isOn(pen.style, 2 * last + i)) put(target, pen.color, cx - x, cy + y);
+    if (x != 0 && y != 0 && isOn(pen.style, 4 * last - i)) put(target, pen.color, cx + x, cy + y);
   }
 }
 
@@ -221,7 +248,7 @@ inline void thinEllipse(Target target, const Pen& pen, const Brush& brush, int c
                       [&](int x, int y) { return covered(x, y) && !outlined(x, y); });
   }
   brushWhere(target, brush, covered);
-  if (pen.style == PenStyle::Dotted) return dottedEllipse(target, pen, cx, cy, shape);
+  if (!strokesAndGaps(pen.style).empty()) return brokenEllipse(target, pen, cx, cy, shape);
   paintWhere(target, pen.color, outlined);
 }
 

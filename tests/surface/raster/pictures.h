@@ -53,6 +53,12 @@ inline int penWidth(Dice& dice) {
   return dice.chance(80) ? dice.number(2, 24) : dice.number(25, 200);
 }
 
+inline raster::PenStyle anyStyle(Dice& dice) {
+  return dice.chance(40) ? raster::PenStyle::Solid
+                         : static_cast<raster::PenStyle>(
+                               dice.number(0, static_cast<int>(raster::PenStyle::Null)));
+}
+
 inline raster::Brush brush(Dice& dice) {
   return {static_cast<raster::BrushStyle>(dice.number(0, 7)), dice.color()};
 }

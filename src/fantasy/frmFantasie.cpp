@@ -1,0 +1,49 @@
+// From the menu to each screen, and back to the main menu.
+#include "fantasy/frmFantasie.h"
+
+#include <vector>
+
+#include "fantasy/frmFantasie1.h"
+#include "fantasy/frmFantasie2.h"
+#include "fantasy/frmFantasie3.h"
+#include "fantasy/frmFantasie4.h"
+#include "fantasy/frmFantasie5.h"
+#include "fantasy/frmFantasie6.h"
+#include "fantasy/frmFantasie7.h"
+#include "fantasy/frmFantasie8.h"
+#include "shell/frmStart.h"
+
+using namespace surface;
+
+frmFantasie::frmFantasie()
+    : Form({.Caption = "KRAS PRET", .BackColor = 0xC0FFC0, .Maximised = true}) {
+  cmdTekenen1.Click = [this] { showNew<frmFantasie1>(), Unload(*this); };
+  cmdTekenen2.Click = [this] { the<frmFantasie2>().Show(), Unload(*this); };
+  cmdFantasie.Click = [this] { the<frmFantasie3>().Show(), Unload(*this); };
+  cmdKleurplaten.Click = [this] { the<frmFantasie4>().Show(), Unload(*this); };
+  Command2.Click = [this] { the<frmFantasie5>().Show(), Unload(*this); };
+  Command1.Click = [this] { the<frmFantasie6>().Show(), Unload(*this); };
+  // These two lie over the menu, which stays.
+  Command3.Click = [] { the<frmFantasie7>().Show(); };
+  Command4.Click = [] { the<frmFantasie8>().Show(); };
+  cmdSluiten.Click = [this] { cmdSluiten_Click(); };
+}
+
+CommandButton::Design frmFantasie::keuze(float top, const char* tekst, Color kleur) {
+  return {.Left = 8040,
+          .Top = top,
+          .Width = 3135,
+          .Height = 615,
+          .Caption = tekst,
+          .BackColor = kleur,
+          .Font = {"Arial", 18, true}};
+}
+
+void frmFantasie::cmdSluiten_Click() {
+  the<frmStart>().Show();
+  // The menus that the screens have left underneath go with this one: the main menu stands alone.
+  std::vector<Form*> menus;
+  for (const auto& form : FormRegistry::instance().forms())
+    if (dynamic_cast<frmFantasie*>(form.get())) menus.push_back(form.get());
+  for (Form* menu : menus) Unload(*menu);
+}
