@@ -32,7 +32,10 @@ void frmFantasie4::Form_Load() {
 }
 
 void frmFantasie4::Timer1_Timer() {
-  if (worm.wormX >= Picture1.Width || worm.wormY >= Picture1.Height) {
+  const auto buiten = [](std::int32_t plaats, float grens) {
+    return static_cast<double>(plaats) >= grens;
+  };
+  if (buiten(worm.wormX, Picture1.Width) || buiten(worm.wormY, Picture1.Height)) {
     Timer2.Enabled = true;
     Timer1.Enabled = false;
     Timer2_Timer();

@@ -12,6 +12,15 @@
 #include "effects/frmRoteren.h"
 #include "effects/frmVervangKleur.h"
 #include "effects/frmZoom.h"
+#include "fantasy/frmFantasie.h"
+#include "fantasy/frmFantasie1.h"
+#include "fantasy/frmFantasie2.h"
+#include "fantasy/frmFantasie3.h"
+#include "fantasy/frmFantasie4.h"
+#include "fantasy/frmFantasie5.h"
+#include "fantasy/frmFantasie6.h"
+#include "fantasy/frmFantasie7.h"
+#include "fantasy/frmFantasie8.h"
 #include "info/frmGebruik.h"
 #include "info/frmHelp1.h"
 #include "info/frmHelp2.h"
@@ -68,6 +77,15 @@ const Opening Screens[] = {{"frmCursus", opened<frmCursus>},
                            {"frmTekenen1", opened<frmTekenen1>},
                            {"frmTekenen3", opened<frmTekenen3>},
                            {"frmEinde", opened<frmEinde>},
+                           {"frmFantasie", opened<frmFantasie>},
+                           {"frmFantasie1", opened<frmFantasie1>},
+                           {"frmFantasie2", openedDefault<frmFantasie2>},
+                           {"frmFantasie3", openedDefault<frmFantasie3>},
+                           {"frmFantasie4", openedDefault<frmFantasie4>},
+                           {"frmFantasie5", openedDefault<frmFantasie5>},
+                           {"frmFantasie6", openedDefault<frmFantasie6>},
+                           {"frmFantasie7", openedDefault<frmFantasie7>},
+                           {"frmFantasie8", openedDefault<frmFantasie8>},
                            {"frmIntro", opened<frmIntro>},
                            {"frmRoteren", opened<frmRoteren>},
                            {"frmVervangKleur", openedDefault<frmVervangKleur>},

@@ -222,3 +222,27 @@ TEST_F(Timers, OfAnUnloadedFormAreDeadAtOnce) {
     EXPECT_EQ(clock.ticks, 0) << "the object lives until the handler has returned";
   });
 }
+
+TEST_F(Timers, TwoThatAreDueAtOnceTickInTheOrderOfTheirDeclarationOneATurn) {
+  TimerControl slow({.Interval = 100}), fast({.Interval = 10});
+  std::string ticks;
+  slow.Timer = [&] { ticks += 's'; };
+  fast.Timer = [&] { ticks += 'f'; };
+  advance(90);
+  ticks.clear();
+  beBusy(10);
+  fireDueTimer();
+  EXPECT_EQ(ticks, "s");
+  fireDueTimer();
+  EXPECT_EQ(ticks, "sf");
+}
+
+TEST_F(Timers, TheOneThatHasWaitedLongestTicksFirst) {
+  TimerControl slow({.Interval = 100}), fast({.Interval = 30});
+  std::string ticks;
+  slow.Timer = [&] { ticks += 's'; };
+  fast.Timer = [&] { ticks += 'f'; };
+  beBusy(100);
+  for (int turn = 0; turn < 3; ++turn) fireDueTimer();
+  EXPECT_EQ(ticks, "fs");
+}
