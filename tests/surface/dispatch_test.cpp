@@ -10,6 +10,7 @@
 
 #include "support/errors.h"
 #include "support/script.h"
+#include "surface/form.h"
 #include "surface/host.h"
 
 using namespace surface;
@@ -246,4 +247,29 @@ TEST_F(Errors, LackOfMemoryIsTrappedAndReportedLikeAnyError) {
   EXPECT_TRUE(wentOn);
   dispatch([] { throw std::bad_alloc(); });
   EXPECT_EQ(takeErrorReport(), "Out of memory");
+}
+
+class DoingEvents : public script::Stage {};
+
+TEST_F(DoingEvents, LetsWaitingEventsInAndShowsWhatTheHandlerHasDrawn) {
+  Form paper({.Width = 1500, .Height = 1500});
+  std::string order;
+  host().doEvents = [&] { dispatch([&] { order += "inner "; }); };
+  dispatch([&] {
+    whenIdle([&] { order += "shown "; });
+    DoEvents();
+    order += "after";
+  });
+  EXPECT_EQ(order, "shown inner after");
+}
+
+TEST_F(DoingEvents, EndsTheHandlerIfAnEventHasEndedTheProgram) {
+  bool wentOn = false;
+  host().doEvents = [] { dispatch([] { End(); }); };
+  dispatch([&] {
+    DoEvents();
+    wentOn = true;
+  });
+  EXPECT_FALSE(wentOn);
+  EXPECT_TRUE(ended());
 }

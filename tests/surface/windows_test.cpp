@@ -5,6 +5,7 @@
 #include <QWidget>
 
 #include "support/script.h"
+#include "surface/host.h"
 
 using namespace surface;
 
@@ -119,4 +120,49 @@ TEST_F(Windows, TheScreenIsMeasuredInTwips) {
   const QSize size = QGuiApplication::primaryScreen()->size();
   EXPECT_EQ(Screen::Width(), static_cast<float>(size.width() * 15));
   EXPECT_EQ(Screen::Height(), static_cast<float>(size.height() * 15));
+}
+
+class Resizing : public script::Stage {};
+
+TEST_F(Resizing, TellsTheFormWhenItIsFirstShownAndAfterEachChange) {
+  class Sheet : public Form {
+   public:
+    Sheet() : Form({.Width = 3000, .Height = 1500}) {
+      Load = [this] { order += "load "; };
+      Resize = [this] { order += "resize "; };
+    }
+    std::string order;
+  };
+  auto& sheet = the<Sheet>();
+  EXPECT_EQ(sheet.order, "load ");
+  sheet.Show();
+  EXPECT_EQ(sheet.order, "load resize ");
+  dispatch([&] { sheet.windowResized(300, 200); });
+  EXPECT_EQ(sheet.order, "load resize resize ");
+  dispatch([&] { sheet.windowResized(300, 200); });
+  sheet.Hide();
+  sheet.Show();
+  EXPECT_EQ(sheet.order, "load resize resize ") << "nothing has changed";
+}
+
+TEST_F(Resizing, AMaximisedFormKnowsTheSizeOfItsWindowBeforeItIsLoaded) {
+  class Sky : public Form {
+   public:
+    Sky() : Form({.Maximised = true}) {
+      Load = [this] { atLoad = innerPixels(); };
+    }
+    raster::Rect atLoad;
+  };
+  host().maximisedSize = [] { return raster::Rect{0, 0, 1910, 1043}; };
+  EXPECT_EQ(loadNew<Sky>().atLoad, (raster::Rect{0, 0, 1910, 1043}));
+}
+
+TEST_F(Resizing, TheNextMaximisedWindowIsAsLargeAsTheLastOne) {
+  class Sky : public Form {
+   public:
+    Sky() : Form({.Maximised = true}) {}
+  };
+  auto& first = showNew<Sky>();
+  advance(0);
+  EXPECT_EQ(loadNew<Sky>().innerPixels(), first.innerPixels());
 }
