@@ -17,12 +17,15 @@ using namespace surface;
 
 frmFantasie::frmFantasie()
     : Form({.Caption = "KRAS PRET", .BackColor = 0xC0FFC0, .Maximised = true}) {
-  cmdTekenen1.Click = [this] { showNew<frmFantasie1>(), Unload(*this); };
-  cmdTekenen2.Click = [this] { the<frmFantasie2>().Show(), Unload(*this); };
-  cmdFantasie.Click = [this] { the<frmFantasie3>().Show(), Unload(*this); };
-  cmdKleurplaten.Click = [this] { the<frmFantasie4>().Show(), Unload(*this); };
-  Command2.Click = [this] { the<frmFantasie5>().Show(), Unload(*this); };
-  Command1.Click = [this] { the<frmFantasie6>().Show(), Unload(*this); };
+  cmdTekenen1.Click = [this] {
+    showNew<frmFantasie1>();
+    Unload(*this);
+  };
+  cmdTekenen2.Click = [this] { opent<frmFantasie2>(); };
+  cmdFantasie.Click = [this] { opent<frmFantasie3>(); };
+  cmdKleurplaten.Click = [this] { opent<frmFantasie4>(); };
+  Command2.Click = [this] { opent<frmFantasie5>(); };
+  Command1.Click = [this] { opent<frmFantasie6>(); };
   // These two lie over the menu, which stays.
   Command3.Click = [] { the<frmFantasie7>().Show(); };
   Command4.Click = [] { the<frmFantasie8>().Show(); };
@@ -37,6 +40,12 @@ CommandButton::Design frmFantasie::keuze(float top, const char* tekst, Color kle
           .Caption = tekst,
           .BackColor = kleur,
           .Font = {"Arial", 18, true}};
+}
+
+template <class Scherm>
+void frmFantasie::opent() {
+  the<Scherm>().Show();
+  Unload(*this);
 }
 
 void frmFantasie::cmdSluiten_Click() {

@@ -54,5 +54,8 @@ class frmFantasie : public surface::Form {
 
  private:
   static CommandButton::Design keuze(float top, const char* tekst, Color kleur);
+  /// Shows the one instance of a screen in place of the menu.
+  template <class Scherm>
+  void opent();
   void cmdSluiten_Click();
 };

@@ -69,33 +69,40 @@ void Wiel::lijnTekenen(DrawingSurface& blad) {
   straal = straal - verkleinStap;
 }
 
+// A channel that has come to its end hands over to the next one.
+double Wiel::omhoog(double kanaal) {
+  kanaal += kleurStap;
+  if (kanaal <= 255) return kanaal;
+  kleurFase = kleurFase % 6 + 1;
+  return 255;
+}
+
+double Wiel::omlaag(double kanaal) {
+  kanaal -= kleurStap;
+  if (kanaal >= kleurStap) return kanaal;
+  kleurFase = kleurFase % 6 + 1;
+  return 0;
+}
+
 void Wiel::kleurVerder() {
   switch (kleurFase) {
     case 1:
-      huidigGroen += kleurStap;
-      if (huidigGroen > 255) huidigGroen = 255, kleurFase = 2;
+      huidigGroen = omhoog(huidigGroen);
       break;
     case 2:
-      huidigRood -= kleurStap;
-      if (huidigRood < kleurStap) huidigRood = 0, kleurFase = 3;
+      huidigRood = omlaag(huidigRood);
       break;
     case 3:
-      huidigBlauw = toInt16(huidigBlauw + kleurStap);
-      if (huidigBlauw >= 256) huidigBlauw = 255, kleurFase = 4;
+      huidigBlauw = toInt16(omhoog(huidigBlauw));
       break;
     case 4:
-      huidigGroen -= kleurStap;
-      if (huidigGroen < kleurStap) huidigGroen = 0, kleurFase = 5;
+      huidigGroen = omlaag(huidigGroen);
       break;
     case 5:
-      huidigRood += kleurStap;
-      if (huidigRood > 255) huidigRood = 255, kleurFase = 6;
-      break;
-    case 6:
-      huidigBlauw = toInt16(huidigBlauw - kleurStap);
-      if (huidigBlauw < kleurStap) huidigBlauw = 0, kleurFase = 1;
+      huidigRood = omhoog(huidigRood);
       break;
     default:
+      huidigBlauw = toInt16(omlaag(huidigBlauw));
       break;
   }
 }

@@ -34,4 +34,6 @@ struct Wiel {
  private:
   void lijnTekenen(surface::DrawingSurface& blad);
   void kleurVerder();
+  double omhoog(double kanaal);
+  double omlaag(double kanaal);
 };

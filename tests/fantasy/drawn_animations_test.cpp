@@ -295,7 +295,9 @@ TEST(Wind, BlowsAsItIsToldAtEverySpeed) {
       blad.PSet({static_cast<float>(r * cosine), static_cast<float>(r * sine)});
       blad.PSet({static_cast<float>(-r * cosine), static_cast<float>(-r * sine)});
     }
-    if (speed == 50) EXPECT_EQ(steps, 3927);
+    if (speed == 50) {
+      EXPECT_EQ(steps, 3927);
+    }
     ASSERT_TRUE(papers.agree()) << "tick " << tick;
   }
 }

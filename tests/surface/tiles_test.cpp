@@ -73,8 +73,7 @@ TEST(Tiles, EveryPixelThatWasPaintedIsShownOnceAndClearedOnce) {
           ASSERT_EQ(covered[py * Width + px]++, 0) << "twice";
           if (clears) unshown[py * Width + px] = 1;
         }
-    for (std::size_t i = 0; i < wanted.size(); ++i)
-      if (wanted[i]) ASSERT_EQ(covered[i], 1) << "left out";
+    for (std::size_t i = 0; i < wanted.size(); ++i) ASSERT_GE(covered[i], wanted[i]) << "left out";
     wanted.assign(wanted.size(), 0);
   }
 }
