@@ -1,5 +1,6 @@
 // The fantasy menu and what all its screens have in common: ways in, ways back, sizes.
 #include <QImage>
+#include <QWidget>
 #include <vector>
 
 #include "fantasy/frmFantasie.h"
