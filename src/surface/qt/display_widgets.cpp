@@ -57,13 +57,13 @@ Color groundOf(const Container& container) {
 }  // namespace
 
 LabelWidget::LabelWidget(Label& owner, QWidget& parent) : QLabel(&parent), control(&owner) {
-  setAttribute(Qt::WA_OpaquePaintEvent);
   setTextFormat(Qt::PlainText);
   setAttribute(Qt::WA_TransparentForMouseEvents, owner.Framed);
 }
 
 void LabelWidget::sync(Aspect aspect) {
   if (aspect == Aspect::Look) {
+    setAttribute(Qt::WA_OpaquePaintEvent, control->BackColor != NoColor && !control->Framed);
     setFont(toQFont(control->Font));
     update();
   }
@@ -93,7 +93,8 @@ void LabelWidget::paintEvent(QPaintEvent*) {
   }
   painter.setFont(font());
   painter.setPen(isEnabled() ? toQColor(control->ForeColor) : Grey);
-  drawCaption(painter, rect().adjusted(Inset, 0, -Inset, 0),
+  // A line that begins at the left may end at the very edge.
+  drawCaption(painter, rect().adjusted(Inset, 0, control->Centred ? -Inset : 0, 0),
               QString::fromStdString(control->Caption), control->Centred);
 }
 
