@@ -50,9 +50,10 @@ void frmFantasie::opent() {
 
 void frmFantasie::cmdSluiten_Click() {
   the<frmStart>().Show();
-  // The menus that the screens have left underneath go with this one: the main menu stands alone.
-  std::vector<Form*> menus;
+  // The main menu stands alone: the menus that the screens have left underneath go with this one,
+  // and a screen that is still open somewhere.
+  std::vector<Form*> others;
   for (const auto& form : FormRegistry::instance().forms())
-    if (dynamic_cast<frmFantasie*>(form.get())) menus.push_back(form.get());
-  for (Form* menu : menus) Unload(*menu);
+    if (form->shown() && form.get() != &the<frmStart>()) others.push_back(form.get());
+  for (Form* other : others) Unload(*other);
 }

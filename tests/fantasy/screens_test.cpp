@@ -58,9 +58,11 @@ const Way Ways[] = {
     {"Bliksemschicht", &frmFantasie::Command4, screenOf<frmFantasie8>, true},
 };
 
+// One that can be seen.
 CommandButton* buttonOf(Form& form, const std::string& caption) {
   for (Control* control : form.controls())
-    if (auto* button = dynamic_cast<CommandButton*>(control); button && button->Caption == caption)
+    if (auto* button = dynamic_cast<CommandButton*>(control);
+        button && button->Visible && button->Caption == caption)
       return button;
   return nullptr;
 }
@@ -68,7 +70,7 @@ CommandButton* buttonOf(Form& form, const std::string& caption) {
 // The worms let the child go when the first one has had its time.
 CommandButton* closing(Form& form) {
   CommandButton* button = buttonOf(form, "Sluiten");
-  return button && button->Visible ? button : buttonOf(form, "Stoppen");
+  return button ? button : buttonOf(form, "Stoppen");
 }
 
 }  // namespace
@@ -103,6 +105,7 @@ TEST_F(FantasyScreens, EachButtonOfTheMenuOpensItsScreenAndSluitenComesBackToAFr
     ASSERT_NE(screen, nullptr);
     EXPECT_TRUE(screen->shown());
     advance(21'000);
+    ASSERT_NE(closing(*screen), nullptr);
     click(*closing(*screen));
     EXPECT_EQ(way.screen(), nullptr) << "the screen is still loaded";
     EXPECT_EQ(loaded<frmFantasie>().size(), way.menuStays ? menus + 1 : menus);
