@@ -11,6 +11,7 @@
 #include "fantasy/frmFantasie6.h"
 #include "fantasy/frmFantasie7.h"
 #include "fantasy/frmFantasie8.h"
+#include "info/frmInfo.h"
 #include "shell/frmStart.h"
 
 using namespace surface;
@@ -29,6 +30,7 @@ frmFantasie::frmFantasie()
   // These two lie over the menu, which stays.
   Command3.Click = [] { the<frmFantasie7>().Show(); };
   Command4.Click = [] { the<frmFantasie8>().Show(); };
+  cmdInfo.Click = [this] { cmdInfo_Click(); };
   cmdSluiten.Click = [this] { cmdSluiten_Click(); };
 }
 
@@ -48,12 +50,20 @@ void frmFantasie::opent() {
   Unload(*this);
 }
 
+void frmFantasie::cmdInfo_Click() {
+  auto& info = the<frmInfo>();
+  info.Show();
+  info.txtInfo.Text = "2";
+  Hide();
+}
+
 void frmFantasie::cmdSluiten_Click() {
   the<frmStart>().Show();
   // The main menu stands alone: the menus that the screens have left underneath go with this one,
-  // and a screen that is still open somewhere.
+  // those that hide behind an information screen, and a screen that is still open somewhere.
   std::vector<Form*> others;
   for (const auto& form : FormRegistry::instance().forms())
-    if (form->shown() && form.get() != &the<frmStart>()) others.push_back(form.get());
+    if (form.get() != &the<frmStart>() && (form->shown() || dynamic_cast<frmFantasie*>(form.get())))
+      others.push_back(form.get());
   for (Form* other : others) Unload(*other);
 }

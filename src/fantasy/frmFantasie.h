@@ -57,5 +57,6 @@ class frmFantasie : public surface::Form {
   /// Shows the one instance of a screen in place of the menu.
   template <class Scherm>
   void opent();
+  void cmdInfo_Click();
   void cmdSluiten_Click();
 };

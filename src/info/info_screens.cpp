@@ -1,4 +1,5 @@
 // The information screens: a text each, and the way back.
+#include "fantasy/frmFantasie.h"
 #include "info/frmGebruik.h"
 #include "info/frmHelp1.h"
 #include "info/frmHelp2.h"
@@ -41,6 +42,7 @@ frmInfo::frmInfo() : TextScreen("KRAS PRET - INFO", texts::About) {
 
 void frmInfo::cmdEinde_Click() {
   if (txtInfo.Text == "1") the<frmStart>().Show();
+  if (txtInfo.Text == "2") the<frmFantasie>().Show();
   if (txtInfo.Text == "3") the<frmKleurplaat>().Show();
   Unload(*this);
 }

@@ -44,6 +44,7 @@ Form::Form(const Design& design)
       Centred(design.Centred),
       BorderStyle(design.BorderStyle) {
   setInnerSize(innerPixel(Width, FrameWidth), innerPixel(Height, FrameHeight));
+  design_ = innerPixels();
   if (!Maximised || !host().maximisedSize) return;
   // Known before the window is: the first figures of an animation are spread over it.
   if (const raster::Rect size = host().maximisedSize(); !size.empty())

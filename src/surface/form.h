@@ -150,6 +150,8 @@ class Form : public DrawingSurface {
   void windowResized(int width, int height);
   /// The window's upper left corner in pixels, its frame included: Left and Top follow.
   void windowMoved(int x, int y);
+  /// The inner size at design.
+  const raster::Rect& designPixels() const { return design_; }
   /// The place and size that the model wants, pixels: the corner of the frame, the inner size.
   raster::Rect windowPlace() const;
   /// True from the moment at which the form is being unloaded.
@@ -161,6 +163,8 @@ class Form : public DrawingSurface {
  private:
   friend class FormRegistry;
   void takeSize(int width, int height);
+
+  raster::Rect design_;
   std::unique_ptr<FormPeer> peer_;
   bool shown_ = false;
   bool sized_ = false;

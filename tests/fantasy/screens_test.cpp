@@ -12,6 +12,7 @@
 #include "fantasy/frmFantasie6.h"
 #include "fantasy/frmFantasie7.h"
 #include "fantasy/frmFantasie8.h"
+#include "info/frmInfo.h"
 #include "shell/frmStart.h"
 #include "support/script.h"
 
@@ -121,6 +122,20 @@ TEST_F(FantasyScreens, BackOnTheMainMenuNoneOfTheOldMenusIsLeft) {
   }
   EXPECT_EQ(loaded<frmFantasie>().size(), 4u);
   click(loaded<frmFantasie>().back()->cmdSluiten);
+  EXPECT_TRUE(loaded<frmFantasie>().empty());
+  EXPECT_TRUE(the<frmStart>().shown());
+}
+
+TEST_F(FantasyScreens, TheInformationComesBackToTheirMenuAndNoHiddenMenuIsLeftBehind) {
+  for (int visit = 0; visit < 3; ++visit) {
+    click(loaded<frmFantasie>().back()->cmdInfo);
+    EXPECT_FALSE(loaded<frmFantasie>().front()->shown());
+    EXPECT_EQ(the<frmInfo>().txtInfo.Text, "2");
+    click(the<frmInfo>().cmdEinde);
+    EXPECT_FALSE(isLoaded<frmInfo>());
+    EXPECT_TRUE(the<frmFantasie>().shown());
+  }
+  click(the<frmFantasie>().cmdSluiten);
   EXPECT_TRUE(loaded<frmFantasie>().empty());
   EXPECT_TRUE(the<frmStart>().shown());
 }
