@@ -67,7 +67,9 @@ DrawingSurface::DrawingSurface(Color backColor, ScaleUnit scaleMode, const UserS
       DrawWidth(*this, 1),
       DrawStyle(*this, 0),
       DrawMode(*this, 13),
-      alive_(std::make_shared<bool>(true)) {}
+      alive_(std::make_shared<bool>(true)) {
+  tiles_.reset(0, 0);
+}
 
 DrawingSurface::~DrawingSurface() = default;
 

@@ -8,14 +8,14 @@ namespace surface {
 void Tiles::reset(int width, int height) {
   surface_ = {0, 0, width, height};
   columns_ = (width + Side - 1) / Side;
-  marks_.clear();
+  // One more than there are: even a surface of no size has one to look at.
+  marks_.assign(index(0, (height + Side - 1) / Side) + 1, None);
   bounds_ = {};
 }
 
 void Tiles::mark(const raster::Rect& area) {
   const raster::Rect seen = intersect(area, surface_);
   if (seen.empty()) return;
-  if (marks_.empty()) marks_.resize(index(0, (surface_.bottom + Side - 1) / Side));
   bounds_ = unite(bounds_, seen);
   const int first = seen.left / Side, last = (seen.right - 1) / Side;
   for (int row = seen.top / Side; row <= (seen.bottom - 1) / Side; ++row)
@@ -37,7 +37,7 @@ std::vector<raster::Rect> Tiles::clear() {
 // The tiles with the mark `from` lose it and get `to`.
 std::vector<raster::Rect> Tiles::change(Mark from, Mark to, const raster::Rect& within) {
   std::vector<raster::Rect> found;
-  if (within.empty() || marks_.empty()) return found;
+  if (within.empty()) return found;
   const int first = within.left / Side, last = (within.right - 1) / Side;
   for (int row = within.top / Side; row <= (within.bottom - 1) / Side; ++row) {
     std::uint8_t* const tiles = &marks_[index(0, row)];

@@ -47,6 +47,16 @@ TEST(Tiles, WhatLiesOutsideCountsForNothing) {
   EXPECT_EQ(tiles.takeUnshown(), list({{0, 0, 2, 3}}));
 }
 
+TEST(Tiles, ASurfaceOfNoSizeTakesEverything) {
+  Tiles tiles;
+  tiles.reset(0, 0);
+  tiles.paint({0, 0, 0, 0});
+  tiles.paint({0, 0, 10, 10});
+  tiles.paint({-5, -5, -1, -1});
+  EXPECT_FALSE(tiles.unshown());
+  EXPECT_TRUE(tiles.clear().empty());
+}
+
 TEST(Tiles, EveryPixelThatWasPaintedIsShownOnceAndClearedOnce) {
   std::mt19937 dice(5);
   const auto number = [&](int low, int high) {
