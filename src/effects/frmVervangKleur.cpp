@@ -43,15 +43,13 @@ LineControl::Design frmVervangKleur::marker(Color color) {
           .BorderWidth = 3};
 }
 
-Label::Design frmVervangKleur::text(float left, float top, float width, const char* caption,
-                                    bool centred) {
+Label::Design frmVervangKleur::text(float left, float top, float width, const char* caption) {
   return {.Left = left,
           .Top = top,
           .Width = width,
           .Height = 255,
           .Caption = caption,
-          .BackColor = Pale,
-          .Centred = centred};
+          .BackColor = Pale};
 }
 
 frmVervangKleur::frmVervangKleur()

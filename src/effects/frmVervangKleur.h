@@ -12,8 +12,7 @@ class frmVervangKleur : public surface::Form {
   static PictureBox::Design track(float top);
   static LineControl::Design line(Color color);
   static LineControl::Design marker(Color color);
-  static Label::Design text(float left, float top, float width, const char* caption,
-                            bool centred = false);
+  static Label::Design text(float left, float top, float width, const char* caption);
 
  public:
   frmVervangKleur();
@@ -31,9 +30,8 @@ class frmVervangKleur : public surface::Form {
   ControlArray<Label, 3> Label3{*this,
                                 {text(4680, 1020, 735, "Rood"), text(4680, 1500, 735, "Groen"),
                                  text(4680, 1980, 735, "Blauw")}};
-  ControlArray<Label, 3> Label4{*this,
-                                {text(5400, 1020, 600, "", true), text(5400, 1500, 600, "", true),
-                                 text(5400, 1980, 600, "", true)}};
+  ControlArray<Label, 3> Label4{
+      *this, {text(5400, 1020, 600, ""), text(5400, 1500, 600, ""), text(5400, 1980, 600, "")}};
   CommandButton cmdUitvoeren{
       *this, {.Left = 1200, .Top = 2520, .Width = 1695, .Height = 435, .Caption = "Uitvoeren"}};
   CommandButton cmdSluiten{

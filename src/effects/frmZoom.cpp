@@ -8,7 +8,7 @@ using namespace surface;
 
 frmZoom::frmZoom()
     : Form({.Caption = std::string(22, ' ') + "IN / UIT ZOOMEN",
-            .Width = 3840,
+            .Width = 4440,
             .Height = 3255,
             .BorderStyle = Border::Fixed}) {
   Slider1.AccessibleName = "vergroting";

@@ -177,7 +177,7 @@ class Effects(cases.Case):
         self.desktop.move(*self.sheet.at(x, y - 1))
         self.desktop.move(*self.sheet.at(x, y))
         left, top, width, height = slider.rectangle
-        corner = left + (720 - 120) // 15, top
+        corner = left + (1080 - 120) // 15, top
 
         def wrong():
             glass = self.desktop.screen().crop(*corner, 200, 200)

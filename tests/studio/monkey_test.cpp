@@ -79,7 +79,7 @@ class Monkey : public script::Stage, public testing::WithParamInterface<unsigned
     const char* name;
     void (Monkey::*act)();
   };
-  static const std::array<Action, 13> Actions;
+  static const std::array<Action, 14> Actions;
 
   // From 0 to below n; the same on every machine.
   int upTo(int n) { return static_cast<int>(random_() % static_cast<unsigned>(n)); }
@@ -120,7 +120,7 @@ class Monkey : public script::Stage, public testing::WithParamInterface<unsigned
   const char* last_ = "nothing";
 };
 
-const std::array<Monkey::Action, 13> Monkey::Actions = {
+const std::array<Monkey::Action, 14> Monkey::Actions = {
     {{30, "a drag on the sheet", &Monkey::dragOnSheet},
      {3, "a drag with two buttons", &Monkey::dragWithTwoButtons},
      {8, "moves on the sheet", &Monkey::moveOnSheet},
