@@ -38,7 +38,7 @@ class Picture {
 
 /// The empty picture.
 inline Picture LoadPicture() { return {}; }
-/// Reads a BMP, GIF, JPEG, ICO or CUR file, told by its content, at most 64 MiB decoded.
+/// Reads a BMP, GIF, JPEG, ICO, CUR or WMF file, told by its content, at most 64 MiB decoded.
 /// FileNotFound or BadFile otherwise.
 Picture LoadPicture(const std::string& path);
 /// Writes an uncompressed 24-bit Windows bitmap. The file takes the place of an older one only when

@@ -6,11 +6,14 @@
 #include <QImageReader>
 #include <QPainter>
 #include <algorithm>
+#include <cstdint>
 #include <cstring>
+#include <span>
 
 #include "surface/bmp.h"
 #include "surface/disk.h"
 #include "surface/errors.h"
+#include "surface/metafile.h"
 #include "surface/qt/picture_bytes.h"
 
 namespace surface::qt {
@@ -19,6 +22,8 @@ namespace {
 constexpr qint64 MostBytesRead = qint64{64} << 20;
 // What the file, the decoder and the picture take together.
 constexpr qint64 MostMemory = qint64{256} << 20;
+// A drawing of no more than that is played in about a second.
+constexpr qint64 MostPixelsPlayed = qint64{16} << 20;
 // Both cost well under a second.
 constexpr int MostSegments = 10'000;
 constexpr qint64 MostBlocksVisited = 50'000'000;
@@ -227,6 +232,13 @@ QImage wrapped(const raster::Bitmap& bitmap) {
                 bitmap.width() * 4, QImage::Format_RGB32);
 }
 
+static Picture playedMetafile(const QByteArray& bytes) {
+  const std::span<const std::uint8_t> file(reinterpret_cast<const std::uint8_t*>(bytes.data()),
+                                           static_cast<std::size_t>(bytes.size()));
+  refuseUnless(isMetafile(file));
+  return Picture(playMetafile(file, MostPixelsPlayed));
+}
+
 Picture loadPicture(const std::string& path) {
   const File file = openFile(path);
   const int first = std::getc(file.get());
@@ -238,6 +250,10 @@ Picture loadPicture(const std::string& path) {
     case 0xFF:  // JPEG
     case 0x00:  // icon and cursor
       return decoded(readAll(file.get()));
+    case 0xD7:  // metafiles, placeable and plain
+    case 0x01:
+    case 0x02:
+      return playedMetafile(readAll(file.get()));
     default:
       badFile();
   }

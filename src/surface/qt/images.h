@@ -20,7 +20,7 @@ QImage wrapped(const raster::Bitmap& bitmap);
 /// A copy of an image from elsewhere, of a large one its upper left part. BadFile if it is none.
 Picture takenPicture(const QImage& image);
 
-/// Reads a BMP, GIF, JPEG, ICO or CUR file, told by its content. FileNotFound or BadFile.
+/// Reads a BMP, GIF, JPEG, ICO, CUR or WMF file, told by its content. FileNotFound or BadFile.
 Picture loadPicture(const std::string& path);
 /// Writes an uncompressed 24-bit Windows bitmap beside the target and puts it in its place when
 /// every byte is on disk. CannotWrite.
