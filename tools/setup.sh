@@ -10,7 +10,8 @@ packages_run=(
 )
 # A screen that is not there, with a hand to move its pointer.
 packages_screen=(xvfb openbox xdotool xclip x11-utils at-spi2-core dbus python3 python3-xlib python3-gi gir1.2-atspi-2.0)
-packages_test=(libgtest-dev libgmock-dev "${packages_screen[@]}")
+# The last two: a printer that is not there either.
+packages_test=(libgtest-dev libgmock-dev "${packages_screen[@]}" cups-daemon cups-client)
 packages_bench=(libbenchmark-dev pkg-config libcairo2-dev libopencv-dev libagg-dev libsdl2-gfx-dev
   "${packages_screen[@]}")
 packages_ci=(clang-format clang-tidy)
