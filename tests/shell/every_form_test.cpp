@@ -197,9 +197,10 @@ TEST_P(EveryForm, TellsAScreenReaderWhatEachControlIsAndIsSilentAboutOrnaments) 
     const bool ornament = label || image || controls[i]->windowless();
     const bool serves = (label && label->Click.handled()) || (image && image->Click.handled());
     // A frame without a title only groups.
-    if (!dynamic_cast<Frame*>(controls[i]))
+    if (!dynamic_cast<Frame*>(controls[i])) {
       EXPECT_EQ(silent, name.empty())
           << "control " << i << ", " << widget->metaObject()->className();
+    }
     EXPECT_TRUE(!silent || (ornament && !serves)) << "control " << i << " " << name;
   }
   EXPECT_EQ(takeErrorReport(), std::nullopt);
