@@ -358,8 +358,6 @@ void Monkey::expectWhole() {
     for (const auto& form : FormRegistry::instance().forms())
       ASSERT_FALSE(dynamic_cast<frmRoteren*>(form.get())) << "after " << last_;
     ASSERT_FALSE(isLoaded<frmZoom>() || isLoaded<frmVervangKleur>()) << "after " << last_;
-    if (QApplication::activePopupWidget() || QApplication::activeModalWidget())
-      printf("POPUP %p %s\n", (void*)QApplication::activePopupWidget(), last_);
     click(the<frmStart>().cmdTekenen2);
   }
   ASSERT_TRUE(studio().shown()) << "after " << last_;
