@@ -165,14 +165,14 @@ class Rotation {
         bottom = std::max(bottom, y + Slack);
       }
     const auto W = static_cast<float>(source_.width()), H = static_cast<float>(source_.height());
-    for (int turn = 0; turn < 2; ++turn) {
+    for (Lies& lie : lies) {
       const auto x = static_cast<float>(sx_), y = static_cast<float>(sy_);
       if (x + left >= 0 && x + right < W && y + top >= 0 && y + bottom < H)
-        lies[turn] = Lies::Inside;
+        lie = Lies::Inside;
       else if (x + right < 0 || x + left >= W || y + bottom < 0 || y + top >= H)
-        lies[turn] = Lies::Outside;
+        lie = Lies::Outside;
       else
-        lies[turn] = Lies::Across;
+        lie = Lies::Across;
       left = std::exchange(right, -left) * -1;
       top = std::exchange(bottom, -top) * -1;
     }

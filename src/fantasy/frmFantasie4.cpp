@@ -8,6 +8,7 @@ using namespace surface;
 
 frmFantasie4::frmFantasie4()
     : Form(fantasie::scherm("WRIEMELENDE REGENWORMEN", fantasie::Lichtgrijs)) {
+  Picture1.AccessibleName = "regenwormen";
   Picture1.FillStyle = 0;
   Load = [this] { Form_Load(); };
   Timer1.Timer = [this] { Timer1_Timer(); };

@@ -6,6 +6,7 @@
 using namespace surface;
 
 frmFantasie5::frmFantasie5() : Form(fantasie::scherm("FEESTELIJK VUURWERK", 0xC0C0C0)) {
+  picVuurwerk.AccessibleName = "vuurwerk";
   Load = [this] { Form_Load(); };
   Timer1.Timer = [this] { vuurwerk.vlieg(picVuurwerk, generator()); };
   Timer2.Timer = [this] { vuurwerk.schiet(picVuurwerk, generator()); };

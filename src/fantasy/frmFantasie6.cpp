@@ -12,6 +12,7 @@ frmFantasie6::frmFantasie6()
   HScroll2.AccessibleName = "verkleinen";
   Slider1.AccessibleName = "de snelheid";
   cmdPauze.Enabled = false;
+  txtBeginkleur.AccessibleName = "beginkleur";
   Load = [this] { Form_Load(); };
   HScroll4.Change = [this] { HScroll4_Change(); };
   HScroll2.Change = [this] { HScroll2_Change(); };

@@ -82,7 +82,10 @@ TEST_F(GoingDown, TakesTheDrawingAlongBehindAnOpenMessageAndAnOpenReportOfAnErro
   EXPECT_TRUE(ended());
   expectDrawing("KrasPret redding 1.bmp");
   restart();
-  host().errorReport = [&](const std::string&, bool) { goDown(); };
+  host().errorReportBeforeLoss = [&](const std::string&) {
+    goDown();
+    return false;
+  };
   dispatch([] { throw RuntimeError(ErrorKind::BadFile, "mis"); });
   EXPECT_TRUE(ended());
   expectDrawing("KrasPret redding 2.bmp");

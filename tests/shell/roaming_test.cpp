@@ -61,6 +61,7 @@ void RoamingMonkey::answerAtRandom() {
     if (oneIn(3)) return std::nullopt;
     return request.save ? folder() + "/a.bmp" : folder() + (oneIn(2) ? "/a.bmp" : "/niets.gif");
   };
+  seams.printerDialog = [this] { return oneIn(2); };
   seams.colorDialog = [](Color, int) { return std::optional<Color>(); };
 }
 

@@ -10,6 +10,7 @@
 #include "effects/frmRoteren.h"
 #include "effects/frmVervangKleur.h"
 #include "effects/frmZoom.h"
+#include "info/frmHelp2.h"
 #include "shell/frmStart.h"
 #include "studio/frmLineaalH.h"
 #include "studio/frmLineaalV.h"
@@ -352,6 +353,12 @@ void Monkey::closeAWindow() {
 void Monkey::expectWhole() {
   ASSERT_EQ(takeErrorReport(), std::nullopt) << "after " << last_;
   ASSERT_FALSE(ended()) << "after " << last_;
+  // The help takes the studio's place until it is closed.
+  for (const auto& form : FormRegistry::instance().forms())
+    if (auto* help = dynamic_cast<frmHelp2*>(form.get()); help && help->shown()) {
+      click(help->cmdEinde);
+      break;
+    }
   if (!isLoaded<frmTekenen2>()) {
     ASSERT_TRUE(the<frmStart>().shown()) << "no window left after " << last_;
     ASSERT_FALSE(isLoaded<frmLineaalH>() || isLoaded<frmLineaalV>());
