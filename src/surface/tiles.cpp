@@ -29,7 +29,7 @@ std::vector<raster::Rect> Tiles::takeUnshown() {
 }
 
 std::vector<raster::Rect> Tiles::clear() {
-  const std::vector<raster::Rect> cleared = change(Painted, Unshown, surface_);
+  std::vector<raster::Rect> cleared = change(Painted, Unshown, surface_);
   for (const raster::Rect& area : cleared) bounds_ = unite(bounds_, area);
   return cleared;
 }
