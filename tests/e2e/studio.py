@@ -104,7 +104,7 @@ class Studio(cases.StudioCase):
             return next((c for c in self.program.controls() if c.role == "combo box"), None)
         driver.until(combo, "list of styles").click()
         self.program.control(name, role="list item").click()
-        driver.until(lambda: combo() and combo().name == name, f"style {name!r}")
+        driver.until(lambda: combo() and not combo().has("EXPANDED"), f"end of the choice of {name!r}")
 
     def mix(self, row, column):
         """Picks one of the ready-made colours in the open colour dialog, by keyboard; gives it."""
