@@ -13,7 +13,7 @@ constexpr std::size_t Copy = std::size_t{Side} * Side * 4;
 // For the small surfaces beside the sheet, and what the pool keeps of them.
 constexpr std::size_t Slack = Copy / 4;
 
-std::size_t heldBytes() {
+[[maybe_unused]] std::size_t heldBytes() {
   const auto info = mallinfo2();
   return info.uordblks + info.hblkhd;
 }
