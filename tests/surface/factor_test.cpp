@@ -228,18 +228,6 @@ TEST_F(AtTheFactor, APressOnEveryDevicePixelOfASheetHitsThePixelShownThere) {
   EXPECT_GT(desk.beside, 0);
 }
 
-TEST_F(AtTheFactor, TheWindowShowsTheSheetInSharpSquares) {
-  press(desk.sheet, 2, 3);
-  press(desk.sheet, 5, 19);
-  const QImage seen = shown(desk), image = qt::wrapped(*desk.sheet.bitmap()).copy();
-  const QRectF place(11 * factor, 7 * factor, 20 * factor, 20 * factor);
-  double error = 0;
-  for (int y = qRound(place.top()); y < qRound(place.bottom()); ++y)
-    for (int x = qRound(place.left()); x < qRound(place.right()); ++x)
-      error = std::max(error, farthest(seen.pixel(x, y), resampled(image, place, x, y)));
-  EXPECT_LE(error, Rounding);
-}
-
 TEST_F(AtTheFactor, TheSameDragLeavesTheSameBitmap) {
   for (int x = 0; x < 20; ++x) press(desk.sheet, x, 19 - x);
   for (float x = 0; x < 20; ++x) desk.other.Line({x, 19 - x}, {19, 7}, Pencil);
