@@ -124,7 +124,9 @@ Picture decodedPart(QByteArray& bytes, const QRect& part, const Turn& turn) {
   QImage image(pixels, part.width(), part.height(), qsizetype{4} * part.width(),
                QImage::Format_RGB32);
   refuseUnless(decoder.reader.read(&image) && image.size() == part.size());
-  return image.constBits() == pixels ? Picture(std::move(bitmap)) : toPicture(image);
+  if (image.constBits() == pixels) return Picture(std::move(bitmap));
+  bitmap.reset();  // shades of grey have come as one byte each: there is room for one picture only
+  return toPicture(image);
 }
 
 bool alike(const Picture& a, const Picture& b) {
