@@ -6,6 +6,7 @@
 #include <cmath>
 #include <cstdlib>
 
+#include "surface/drawing.h"
 #include "surface/errors.h"
 #include "surface/metafile.h"
 #include "surface/numbers.h"
@@ -14,7 +15,6 @@ namespace surface {
 namespace {
 
 constexpr double DotsPerInch = 96;
-constexpr int LargestSide = 32767;
 constexpr std::size_t MostSavedStates = 256;
 
 int limited(double value, int limit) {

@@ -17,8 +17,6 @@ using surface::RGB;
 
 namespace {
 
-int whole(double value) { return static_cast<int>(std::nearbyint(value)); }
-
 Bitmap hammeredLiterally(Bitmap picture) {
   const auto fit = [](double c) { return c > 255 ? 255.0 : c < 0 ? 0.0 : c; };
   for (int round = 0; round < 2; ++round)

@@ -16,8 +16,6 @@ using surface::RGB;
 
 namespace {
 
-int whole(double value) { return static_cast<int>(std::nearbyint(value)); }
-
 // One colour of the way, as it is told.
 Color literalColor(Color c1, Color c2, float L, float p) {
   const int r1 = c1 & 255, g1 = c1 / 256 & 255, b1 = c1 / 65536 & 255;

@@ -1,6 +1,7 @@
 // Pictures to try effects on: random ones of odd sizes, and ones of a few pixels written out.
 #pragma once
 
+#include <cmath>
 #include <initializer_list>
 #include <vector>
 
@@ -35,6 +36,9 @@ inline std::vector<Bitmap> oddPictures(std::uint32_t seed) {
     all.push_back(noise(dice, width, height));
   return all;
 }
+
+/// Rounded, halves to the even number.
+inline int whole(double value) { return static_cast<int>(std::nearbyint(value)); }
 
 inline Bitmap plain(int width, int height, Color color) {
   return Bitmap(width, height, surface::toPixel(color));

@@ -14,8 +14,6 @@ using surface::RGB;
 
 namespace {
 
-int whole(double value) { return static_cast<int>(std::nearbyint(value)); }
-
 // Brightness as it is told: the far edges included, blue rounded at once, red and green at the end.
 Bitmap brightenedLiterally(Bitmap picture, double percent) {
   const auto f = static_cast<float>(percent / 100);

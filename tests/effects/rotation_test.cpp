@@ -14,8 +14,6 @@ using surface::RGB;
 
 namespace {
 
-int whole(double value) { return static_cast<int>(std::nearbyint(value)); }
-
 float radians(double degrees) { return static_cast<float>(degrees * 3.14159265359 / 180); }
 
 void rotateLiterally(const Bitmap& source, Bitmap& target, float angle) {

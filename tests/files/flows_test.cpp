@@ -3,6 +3,7 @@
 #include "files/disk.h"
 #include "files/picture_files.h"
 #include "studio/frmTekenen2.h"
+#include "support/colors.h"
 #include "support/script.h"
 
 using namespace surface;
@@ -10,7 +11,6 @@ using namespace picture_files;
 
 namespace {
 
-constexpr Color Red = 0x0000FF;
 constexpr int SheetWidth = 617, SheetHeight = 537;
 
 // Red, with a blue pixel in the last corner.

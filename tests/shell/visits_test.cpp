@@ -1,31 +1,16 @@
 // A class of children comes and goes all day: what the program holds must not grow with the visits.
-#include <malloc.h>
-
 #include "course/frmTekenen3.h"
 #include "shell/frmStart.h"
 #include "small/frmKleurplaat.h"
 #include "small/frmKleurplaat2.h"
 #include "small/frmTekenen1.h"
+#include "support/held_bytes.h"
 #include "support/script.h"
 #include "support/tree_folder.h"
-
-#ifdef __SANITIZE_ADDRESS__
-// The compiler's headers leave it out.
-extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
-#endif
 
 using namespace surface;
 
 namespace {
-
-#ifdef __SANITIZE_ADDRESS__
-std::size_t heldBytes() { return __sanitizer_get_current_allocated_bytes(); }
-#else
-std::size_t heldBytes() {
-  const auto info = mallinfo2();
-  return info.uordblks + info.hblkhd;
-}
-#endif
 
 // One sheet is more than a megabyte, a screen of pages twenty: what stays of a visit would be seen
 // at once.

@@ -8,13 +8,12 @@
 #include "studio/frmLineaalV.h"
 #include "studio/frmTekenen2.h"
 #include "studio/modTekenen.h"
+#include "support/colors.h"
 #include "support/script.h"
 
 using namespace surface;
 
 namespace {
-
-constexpr Color Red = 0x0000FF;
 
 struct Tool {
   CommandButton frmTekenen2::*button;

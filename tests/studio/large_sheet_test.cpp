@@ -1,7 +1,6 @@
 // A large sheet: what is equal is held once, and drawing holds three copies of it at most.
-#include <malloc.h>
-
 #include "studio/studio.h"
+#include "support/held_bytes.h"
 
 using namespace surface;
 
@@ -11,12 +10,7 @@ namespace {
 constexpr int Side = 4200;  // pixels
 constexpr std::size_t Copy = std::size_t{Side} * Side * 4;
 // For the small surfaces beside the sheet, and what the pool keeps of them.
-constexpr std::size_t Slack = Copy / 4;
-
-[[maybe_unused]] std::size_t heldBytes() {
-  const auto info = mallinfo2();
-  return info.uordblks + info.hblkhd;
-}
+constexpr std::size_t SmallSurfaces = Copy / 4;
 
 }  // namespace
 
@@ -60,10 +54,10 @@ TEST_F(LargeSheet, IsHeldInThreeCopiesAtMostHoweverMuchIsDrawn) {
   sheet.Picture = photo();
   for (int i = 0; i < 4; ++i) {
     stroke(static_cast<float>(20 + 10 * i));
-    EXPECT_LE(heldBytes() - before, 3 * Copy + Slack) << "after stroke " << i;
+    EXPECT_LE(heldBytes() - before, 3 * Copy + SmallSurfaces) << "after stroke " << i;
   }
   studio.cmdUndo.Click();
   studio.cmdRedo.Click();
-  EXPECT_LE(heldBytes() - before, 3 * Copy + Slack) << "after undo and redo";
+  EXPECT_LE(heldBytes() - before, 3 * Copy + SmallSurfaces) << "after undo and redo";
 }
 #endif

@@ -1,13 +1,7 @@
 // A child draws all afternoon: what the program holds must not grow with the number of strokes,
 // undos and pastes.
-#include <malloc.h>
-
 #include "studio/studio.h"
-
-#ifdef __SANITIZE_ADDRESS__
-// The compiler's headers leave it out.
-extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
-#endif
+#include "support/held_bytes.h"
 
 using namespace surface;
 
@@ -15,13 +9,8 @@ namespace {
 
 #ifdef __SANITIZE_ADDRESS__
 constexpr int Rounds = 500;
-std::size_t heldBytes() { return __sanitizer_get_current_allocated_bytes(); }
 #else
 constexpr int Rounds = 10'000;
-std::size_t heldBytes() {
-  const auto info = mallinfo2();
-  return info.uordblks + info.hblkhd;
-}
 #endif
 
 // The toolkit paints when it finds the time, and fills its caches as it goes.

@@ -3,13 +3,12 @@
 #include <set>
 
 #include "studio/frmTekenen2.h"
+#include "support/colors.h"
 #include "support/script.h"
 
 using namespace surface;
 
 namespace {
-
-constexpr Color Red = 0x0000FF, Green = 0x00FF00, Blue = 0xFF0000;
 
 using Dots = std::set<std::pair<int, int>>;
 

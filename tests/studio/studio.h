@@ -9,6 +9,7 @@
 #include "studio/frmTekenen2.h"
 #include "support/script.h"
 #include "surface/raster/oracle.h"
+#include "surface/raster/pictures.h"
 
 /// A control's place and tooltip as a panel's table states them.
 struct Placed {
@@ -18,32 +19,7 @@ struct Placed {
   std::string tip = {};
 };
 
-inline std::string hex(raster::Pixel pixel) {
-  constexpr char digits[] = "0123456789abcdef";
-  std::string text;
-  for (int shift = 20; shift >= 0; shift -= 4) text += digits[pixel >> shift & 0xF];
-  return text;
-}
-
-/// Equal pixel for pixel; the message tells the first difference and how many there are.
-inline testing::AssertionResult same(const raster::Bitmap& is, const raster::Bitmap& should) {
-  if (is.width() != should.width() || is.height() != should.height())
-    return testing::AssertionFailure()
-           << is.width() << " x " << is.height() << " pixels in place of " << should.width()
-           << " x " << should.height();
-  int differing = 0;
-  std::string first;
-  for (int y = 0; y < is.height(); ++y) {
-    for (int x = 0; x < is.width(); ++x) {
-      if (is.at(x, y) == should.at(x, y)) continue;
-      if (++differing == 1)
-        first = "(" + std::to_string(x) + ", " + std::to_string(y) + ") is " + hex(is.at(x, y)) +
-                ", should be " + hex(should.at(x, y));
-    }
-  }
-  if (differing == 0) return testing::AssertionSuccess();
-  return testing::AssertionFailure() << differing << " pixels differ: " << first;
-}
+using pictures::same;
 
 inline testing::AssertionResult shows(const surface::DrawingSurface& surface,
                                       const raster::Bitmap& should) {

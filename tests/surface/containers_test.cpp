@@ -3,14 +3,13 @@
 #include <QImage>
 #include <QWidget>
 
+#include "support/colors.h"
 #include "support/errors.h"
 #include "support/script.h"
 
 using namespace surface;
 
 namespace {
-
-constexpr Color Red = 0x0000FF, Green = 0x00FF00;
 
 // Three tracks of 300 by 20 pixels, each called 0 to 200 from left to right, with a marker each.
 class Tracks : public Form {

@@ -4,6 +4,7 @@
 #include <memory>
 #include <set>
 
+#include "support/colors.h"
 #include "support/errors.h"
 #include "support/script.h"
 
@@ -11,7 +12,6 @@ using namespace surface;
 
 namespace {
 
-constexpr Color Red = 0x0000FF, Green = 0x00FF00, Blue = 0xFF0000;
 constexpr int Side = 100;  // pixels
 
 class Slate : public Form {

@@ -3,14 +3,13 @@
 
 #include <QImage>
 
+#include "support/colors.h"
 #include "support/errors.h"
 #include "support/script.h"
 
 using namespace surface;
 
 namespace {
-
-constexpr Color Red = 0x0000FF, Green = 0x00FF00, Blue = 0xFF0000;
 
 class Bench : public Form {
  public:

@@ -5,14 +5,13 @@
 #include <QImage>
 #include <QWidget>
 
+#include "support/colors.h"
 #include "support/errors.h"
 #include "support/script.h"
 
 using namespace surface;
 
 namespace {
-
-constexpr Color Red = 0x0000FF, Green = 0x00FF00;
 
 class ShopWindow : public Form {
  public:

@@ -1,6 +1,7 @@
 // The text dialog: its controls, and what each of them sets on the sample, the sheet and the mark.
 #include <QFontMetrics>
 
+#include "support/colors.h"
 #include "surface/host.h"
 #include "surface/qt/text_layout.h"
 #include "text/text_tool.h"
@@ -10,8 +11,6 @@ using namespace surface;
 using TextDialog = TextTool;
 
 namespace {
-
-constexpr Color Red = 255;
 
 LiteralText sampleOf(frmTekst& form) {
   const auto& inner = form.picVoorbeeld.innerPixels();

@@ -155,7 +155,7 @@ TEST_F(TextPlacing, HasOnlyTheTwoColoursOfTextAndGround) {
   for (int y = 0; y < picture.height(); ++y)
     for (int x = 0; x < picture.width(); ++x) {
       const raster::Pixel pixel = picture.at(x, y);
-      ASSERT_TRUE(pixel == toPixel(Black) || pixel == toPixel(White)) << hex(pixel);
+      ASSERT_TRUE(pixel == toPixel(Black) || pixel == toPixel(White)) << std::hex << pixel;
       black += pixel == toPixel(Black) ? 1 : 0;
     }
   EXPECT_GT(black, 500);

@@ -1,11 +1,12 @@
 // The sample in the text dialog: each effect in red and black, and the angle of the depth.
+#include "support/colors.h"
 #include "text/text_tool.h"
 
 using namespace surface;
 
 namespace {
 
-constexpr Color Red = 255, Ground = 0x00E0C0A0;
+constexpr Color Backdrop = 0x00E0C0A0;
 constexpr double Pi = 3.14159265359;
 
 }  // namespace
@@ -15,13 +16,13 @@ class TextPreview : public TextTool {
   // On a ground of another colour than white, where white dots show.
   frmTekst& open() {
     frmTekst& form = openAt(100, 50);
-    form.picVoorbeeld.BackColor = Ground;
+    form.picVoorbeeld.BackColor = Backdrop;
     return form;
   }
   LiteralText sample(frmTekst& form) {
     const auto& inner = form.picVoorbeeld.innerPixels();
-    return {raster::Bitmap(inner.width(), inner.height(), toPixel(Ground)), form.picVoorbeeld.Font,
-            "Voorbeeld"};
+    return {raster::Bitmap(inner.width(), inner.height(), toPixel(Backdrop)),
+            form.picVoorbeeld.Font, "Voorbeeld"};
   }
   LiteralText deep(frmTekst& form, int depth, double angle) {
     LiteralText should = sample(form);
@@ -147,7 +148,7 @@ TEST_F(TextPreview, AnythingButDigitsInTheAngleIsRefusedAndTheSampleStaysCleared
   frmTekst& form = open();
   click(form.chk3Deffect);
   const auto& inner = form.picVoorbeeld.innerPixels();
-  const raster::Bitmap cleared(inner.width(), inner.height(), toPixel(Ground));
+  const raster::Bitmap cleared(inner.width(), inner.height(), toPixel(Backdrop));
   for (const char* text : {"-5", "4x", "1.5", " 9", "é"}) {
     answerMessage(Ok);
     fill(form.txtHoek, text);

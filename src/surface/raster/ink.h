@@ -10,6 +10,13 @@
 
 namespace raster {
 
+/// For products of two coordinates and their fractions.
+using Wide = std::int64_t;
+
+/// a / b rounded down or up; b > 0.
+inline Wide floorDiv(Wide a, Wide b) { return a / b - (a % b < 0 ? 1 : 0); }
+inline Wide ceilDiv(Wide a, Wide b) { return a / b + (a % b > 0 ? 1 : 0); }
+
 constexpr Pixel kOpaque = 0xFF000000;
 constexpr Pixel kColorBits = 0x00FFFFFF;
 constexpr int kCopy = 13;  ///< the raster operation that paints the pen's colour

@@ -7,11 +7,6 @@
 namespace raster {
 namespace {
 
-using Wide = std::int64_t;
-
-Wide ceilDiv(Wide a, Wide b) { return a / b + (a % b > 0 ? 1 : 0); }
-Wide floorDiv(Wide a, Wide b) { return a / b - (a % b < 0 ? 1 : 0); }
-
 /// Of several source pixels that fall on one target pixel the platform keeps the last column but
 /// the first row.
 enum class Keeps { First, Last };

@@ -4,11 +4,6 @@
 namespace raster {
 namespace {
 
-using Wide = std::int64_t;
-
-Wide floorDiv(Wide a, Wide b) { return a / b - (a % b < 0 ? 1 : 0); }
-Wide ceilDiv(Wide a, Wide b) { return a / b + (a % b > 0 ? 1 : 0); }
-
 constexpr int kBits = 40;
 constexpr Wide kOne = Wide{1} << kBits, kNudge = Wide{1} << 20;
 

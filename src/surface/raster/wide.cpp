@@ -10,12 +10,8 @@ constinit const Discs discs;
 
 namespace {
 
-using Wide = std::int64_t;
-
 // The pieces of a stroke are short: their rows are worked out at once.
 constexpr int kShortRows = 256;
-
-Wide floorDiv(Wide a, Wide b) { return a / b - (a % b < 0 ? 1 : 0); }
 
 /// The largest whole number whose square is not above n, from a guess.
 Wide floorSqrt(Wide n, double guess) {

@@ -12,8 +12,6 @@ using raster::BrushStyle;
 using raster::Pen;
 using raster::PenStyle;
 
-constexpr Pixel kWhite = 0xFFFFFFFF, kBlack = 0xFF000000;
-
 Pen anyPen(Dice& dice) {
   const PenStyle style = anyStyle(dice);
   return {style, dice.chance(50) ? 1 : penWidth(dice), dice.color()};

@@ -13,8 +13,6 @@ using raster::BrushStyle;
 using raster::Pen;
 using raster::PenStyle;
 
-constexpr Pixel kWhite = 0xFFFFFFFF, kBlack = 0xFF000000, kGreen = 0xFF00FF00;
-
 /// A half axis: whole, half, or any fraction; small ones more often.
 double halfAxis(Dice& dice) {
   const int whole = dice.chance(70) ? dice.number(0, 30) : dice.number(0, 120);

@@ -10,8 +10,6 @@ using namespace pictures;
 using raster::Brush;
 using raster::BrushStyle;
 
-constexpr Pixel kWhite = 0xFFFFFFFF, kBlack = 0xFF000000, kGreen = 0xFF00FF00;
-
 void expectFill(const Bitmap& before, const Brush& brush, int rop, int x, int y, Pixel region) {
   Bitmap want = before, got = before;
   oracle::floodFill({want, rop}, brush, x, y, region);

@@ -11,8 +11,6 @@ using raster::Pen;
 using raster::PenStyle;
 using raster::Target;
 
-constexpr Pixel kWhite = 0xFFFFFFFF, kBlack = 0xFF000000;
-
 /// Draws the same line both ways on noise and compares.
 void expectLine(Dice& dice, const Pen& pen, int rop, int x1, int y1, int x2, int y2) {
   const Bitmap before = noise(dice, 61, 47);

@@ -15,6 +15,8 @@ using raster::Bitmap;
 using raster::Pixel;
 using raster::Rect;
 
+inline constexpr Pixel kWhite = 0xFFFFFFFF, kBlack = 0xFF000000, kGreen = 0xFF00FF00;
+
 /// Random numbers that are the same on every machine, whatever its standard library.
 class Dice {
  public:
@@ -63,18 +65,24 @@ inline raster::Brush brush(Dice& dice) {
   return {static_cast<raster::BrushStyle>(dice.number(0, 7)), dice.color()};
 }
 
-/// True if both are the same; otherwise tells the first pixel that is not.
-inline testing::AssertionResult same(const Bitmap& want, const Bitmap& got) {
-  if (want.bounds() != got.bounds()) return testing::AssertionFailure() << "another size";
-  for (int y = 0; y < want.height(); ++y) {
-    for (int x = 0; x < want.width(); ++x) {
-      if (want.at(x, y) == got.at(x, y)) continue;
-      return testing::AssertionFailure()
-             << std::hex << "pixel " << std::dec << x << ", " << y << std::hex << " is "
-             << got.at(x, y) << " and not " << want.at(x, y);
+/// True if both are the same; otherwise tells how many pixels differ, and the first of them.
+inline testing::AssertionResult same(const Bitmap& one, const Bitmap& other) {
+  if (one.bounds() != other.bounds()) {
+    return testing::AssertionFailure() << one.width() << " x " << one.height() << " pixels, and "
+                                       << other.width() << " x " << other.height();
+  }
+  int differing = 0;
+  testing::AssertionResult first = testing::AssertionFailure();
+  for (int y = 0; y < one.height(); ++y) {
+    for (int x = 0; x < one.width(); ++x) {
+      if (one.at(x, y) == other.at(x, y)) continue;
+      if (++differing > 1) continue;
+      first << "pixel " << x << ", " << y << " is " << std::hex << one.at(x, y) << " in the one, "
+            << other.at(x, y) << std::dec << " in the other; ";
     }
   }
-  return testing::AssertionSuccess();
+  if (differing == 0) return testing::AssertionSuccess();
+  return first << differing << " pixels differ";
 }
 
 /// True if every pixel that differs lies in `area`, and `area` on the bitmap.
