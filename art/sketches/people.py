@@ -54,9 +54,10 @@ def head(p, view="34", hair="short", eyes="dot", look=(1, 0), mouth="smile", bro
     if ear and hair == "curly":
         p.shape("-14 -2, -26 -4, -30 8, -24 18, -13 15")
     elif ear and hair != "bob":                 # open towards the cheek: ear and face are one area
-        p.put(f'<path stroke="none" d="{p.path("-8 -4, -26 -4, -30 8, -24 18, -8 16")}"/>')
-        p.line("-14 -3, -26 -4, -31 8, -24 19, -13 15", 4)
-        if p.scale > .85:
+        top = "-9 -11" if hair in ("long", "braid") else "-15 -11"       # on the hair's edge, so that hair and face stay apart
+        p.put(f'<path stroke="none" d="{p.path(f"{top}!, -26 -4, -30 8, -24 18, -8 16!")}"/>')
+        p.line(f"{top}, -26 -4, -31 8, -24 19, -13 15", 4)
+        if .85 < p.scale < 1.2:
             p.line("-23 4, -19 10")
 
 
