@@ -8,23 +8,26 @@ p.shape("-10 452!, 300 420, 630 366!, 630 560!, -10 560!")
 
 p.note("roofs far away")
 p.shape("-10 330!, 30 270!, 84 330!, 84 470!, -10 470!")
+p.shape("300 420!, 300 270!, 348 222!, 396 270!, 396 420!")
+p.shape(box(326, 270, 42, 50))
+
 p.shape("-10 452!, 300 420, 630 366!, 630 560!, -10 560!")
 
 p.note("two lines of bunting")
 bunting(p, "-10 40, 100 58, 220 48, 330 -40", 4)
-bunting(p, "340 -30, 410 50, 520 82, 640 70", 4)
+bunting(p, "340 -30, 410 40, 520 66, 640 40", 4)
 
 p.note("princess, small and behind, in profile")
-with p.at(500, 214):
+with p.at(506, 220, 1.1):
     p.shape(limb("-2 -14, 0 14", 16, 16))
     p.tube("-62 -38, -92 -74, -134 -50, -120 -14, -90 -30, -112 -74, -160 -84, -186 -50", 14)
     p.one(arm("-8 22, -36 8, -56 -30", 17, 14, thumb=-1))
     p.one("-14 4!, 12 4!, 22 34, 34 70, 70 168!, 8 176, -52 168!, -22 74, -22 34", limb("-4 18, -22 16, -34 8", 24, 24, flat=True))
     p.line("-22 74, 4 82, 34 70")
     p.one(arm("12 22, 34 40, 48 62", 17, 14, thumb=1))
-    p.one("2 8, 24 10, 40 36!, 22 48!, 6 34", join=(4, 20, 18))
+    p.one("-2 10, 22 8, 42 36!, 22 50!, 4 36", join=(2, 18, 21))
     with p.at(0, -36, .72, flip=True):
-        head(p, "side", "pony", mouth="open", r=6.5)
+        head(p, "side", "pony", mouth="open", brows=None, r=6.5)
         p.shape("-38 -40!, -48 -90!, -20 -66!, -4 -100!, 12 -66!, 40 -80!, 32 -38!, -4 -50")
 
 p.note("clown: the far arm with its stick")
@@ -75,7 +78,7 @@ with p.at(190, 152, 1.08, 12):
     p.shape(scallops(oval(-16, -112, 14), 6, .4))
 
 p.note("the bear cub, nose against the shoe")
-with p.at(512, 430):
+with p.at(510, 426):
     p.one(oval(44, 44, 34, 38), oval(10, 20, 46, 52, -20), limb("16 56, 6 72, -24 84", 40, 32), oval(79, 66, 13))
     p.one(limb("58 66, 56 86, 34 98", 46, 36), join=(62, 62, 26))
     p.shape(oval(-14, -54, 16))
@@ -90,6 +93,5 @@ with p.at(512, 430):
     p.shape(oval(-8, 6, 15))
     p.line("-12 10, -6 10, -4 4")
     
-p.shape(star(470, 344, 17))
-p.shape(star(438, 330, 13))
+p.lines("432 352, 420 336", "452 342, 450 322", "472 340, 482 324", width=4)
 p.save()
