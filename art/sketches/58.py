@@ -52,19 +52,18 @@ with p.at(204, 0):
     p.one("-34 208!, 20 200!, 38 240, 40 300, 60 380!, 0 394, -78 378!, -50 300, -50 250")
     p.line("-52 294, -4 306, 42 292")
     with p.at(10, 128, .94, -14):
-        head(p, "side", "braid", mouth="tongue", brows=None)
+        head(p, "side", "pony", mouth="tongue", brows=None)
     p.shape("90 90!, 152 76!, 160 136!, 100 148!")
-    p.one(limb("-16 226, 20 210, 50 178", 48, 42, 38, flat=True), arm("52 178, 76 150, 88 130", 32, 26, thumb=1), join=(-16, 228, 23))
+    p.one(limb("-16 226, 20 210, 50 178", 48, 42, 38, flat=True), arm("52 178, 76 150, 88 130", 32, 26, thumb=1), join=(-14, 230, 22))
 
 p.note("boy on his belly, cheeks blown up, hands at his mouth")
-with p.at(520, 484, .94, flip=True):
-    p.one(limb("-60 20, -120 26, -150 -10", 50, 40))
-    p.one("-80 -14, -20 -24, 40 -30, 66 0, 60 34, 0 44, -84 44, -100 14")
-    with p.within("-80 -14, -20 -24, 40 -30, 66 0, 60 34, 0 44, -84 44, -100 14"):
-        p.lines("-30 -50, -36 60", "10 -50, 10 60", width=4)
-    with p.at(90, -50, .94, -8):
+with p.at(520, 480, flip=True):
+    p.one("64 -26, 20 -38, -30 -26, -90 -20, -140 -10, -140 40, -40 36, 56 38")
+    p.line("-24 -30, -34 36", 4)
+    with p.at(86, -66, .98, -10):
         head(p, "side", "curly", mouth="o", brows=8)
-    p.one(limb("40 10, 84 46, 112 42", 44, 38, flat=True), arm("112 44, 132 30, 138 14", 30, 26, thumb=-1), join=(40, 8, 22))
+    p.one(arm("96 12, 108 -2, 112 -12", 26, 24, thumb=1))
+    p.one(limb("40 -6, 42 24, 66 30, 98 10", 44, 40, 36, 30, flat=True), join=(38, -8, 22))
 p.note("blocks that wait")
 p.shape("60 474!, 112 464!, 122 510!, 68 520!")
 p.save()
