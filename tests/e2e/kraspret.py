@@ -132,9 +132,10 @@ class KrasPret(driver.Program):
         return next((c for c in self.controls() if c.role in DIALOGS), None)
 
     def wait_dialog(self, title=None):
+        """The open dialog, once it has the keyboard: a key that comes sooner goes to the window behind it."""
         def look():
             found = self.dialog()
-            return found if found and title in (None, found.name) else None
+            return found if found and title in (None, found.name) and found.has("ACTIVE") else None
         return driver.until(look, f"dialog {title or ''}")
 
     def wait_no_dialog(self):

@@ -16,6 +16,7 @@ class Dialogs(Studio):
         return {kraspret.driver.plain_name(c.name or "") for c in self.program.controls()}
 
     def close(self):
+        self.program.wait_dialog()
         self.desktop.key("Escape")
         self.program.wait_no_dialog()
 
@@ -75,7 +76,6 @@ class Dialogs(Studio):
         before = self.files()
         for button in (kraspret.SAVE, studio.BACKGROUND):
             self.click(button)
-            self.program.wait_dialog()
             self.close()
         self.click(studio.BACKGROUND)
         self.mix(1, 1)
