@@ -164,7 +164,7 @@ namespace {
 
 constexpr Color Pencil = 0x0040FF;
 
-// A small sheet at an odd place.
+// A small sheet at an odd place, to be drawn on: what is chosen from would show the focus above it.
 class Corner : public Form {
  public:
   Corner() : Form({.Width = 1500, .Height = 1500}) {
@@ -176,8 +176,13 @@ class Corner : public Form {
   }
   std::optional<Mouse> pressed;
   int beside = 0;
-  PictureBox sheet{
-      *this, {.Left = 165, .Top = 105, .Width = 300, .Height = 300, .ScaleMode = ScalePixels}};
+  PictureBox sheet{*this,
+                   {.Left = 165,
+                    .Top = 105,
+                    .Width = 300,
+                    .Height = 300,
+                    .ScaleMode = ScalePixels,
+                    .AutoRedraw = true}};
   PictureBox other{
       *this, {.Left = 900, .Top = 900, .Width = 300, .Height = 300, .ScaleMode = ScalePixels}};
 };
@@ -226,6 +231,18 @@ TEST_F(AtTheFactor, APressOnEveryDevicePixelOfASheetHitsThePixelShownThere) {
             << x << ", " << y;
     }
   EXPECT_GT(desk.beside, 0);
+}
+
+TEST_F(AtTheFactor, TheWindowShowsTheSheetInSharpSquares) {
+  press(desk.sheet, 2, 3);
+  press(desk.sheet, 5, 19);
+  const QImage seen = shown(desk), image = qt::wrapped(*desk.sheet.bitmap()).copy();
+  const QRectF place(11 * factor, 7 * factor, 20 * factor, 20 * factor);
+  double error = 0;
+  for (int y = qRound(place.top()); y < qRound(place.bottom()); ++y)
+    for (int x = qRound(place.left()); x < qRound(place.right()); ++x)
+      error = std::max(error, farthest(seen.pixel(x, y), resampled(image, place, x, y)));
+  EXPECT_LE(error, Rounding);
 }
 
 TEST_F(AtTheFactor, TheSameDragLeavesTheSameBitmap) {
