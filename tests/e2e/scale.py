@@ -8,6 +8,7 @@ import pixels
 from kraspret import BLACK, STUDIO, WHITE
 
 FROM, TO = 96, 208  # the square of the sheet that is compared: with the line, without the sample of it
+GREY = 192  # darker is a device pixel that is mostly a black one's
 
 
 def shares(device, factor):
@@ -28,6 +29,17 @@ def resampled(picture, factor, compared):
             row.append([float(sum(colour[channel] * part for colour, part in parts)) for channel in range(3)])
         rows.append(row)
     return rows
+
+
+def settled(look):
+    """What a look finds, once it finds the same twice: the screen can be read while it is being painted."""
+    last = None
+
+    def again():
+        nonlocal last
+        before, last = last, look()
+        return last if last == before else None
+    return cases.driver.until(again, "the same at two looks")
 
 
 class ScaleCase(cases.Case):
@@ -51,9 +63,16 @@ class ScaleCase(cases.Case):
         self.click(program, kraspret.TOOLS["line"], factor)
         program.wait_says("je bent bezig met LIJNEN TREKKEN")
         self.desktop.drag(place(100, 100), place(200, 150))
+        # A release that the window manager is slow to hand on would be one at the pointer's next place.
+        cases.driver.until(lambda: max(self.desktop.screen().at(*place(100, 100))) < GREY, "line on the sheet")
         self.desktop.move(*place(500, 400))
         program.wait_says("X=500 Y=400")
-        shown = self.desktop.screen().crop(left, top, int(TO * factor), int(TO * factor))
+        side, ends = int(TO * factor), (place(100, 100), place(199, 149))
+
+        def line():
+            screen = self.desktop.screen()
+            return screen.crop(left, top, side, side).rows if all(max(screen.at(*end)) < GREY for end in ends) else None
+        shown = pixels.Picture(side, side, settled(line))
         self.click(program, kraspret.SAVE, factor)
         path = self.path("lijn.bmp")
         program.answer_file_dialog(path)
@@ -71,7 +90,7 @@ class ScaleCase(cases.Case):
             while screen.at(x, y - 1) == WHITE:
                 y -= 1
             return x, y
-        return cases.driver.until(look, "white sheet beside the grey window")
+        return settled(look)
 
     def lands_where_it_was_pressed(self, factor):
         shown, saved = self.drawn_at(factor)
