@@ -75,7 +75,7 @@ struct Sheet {
   Bitmap picture, result;
   QImage image, imageResult;
   cv::Mat matrix, matrixResult;
-  cv::Mat table{1, 256, CV_8U};
+  cv::Mat table = cv::Mat(1, 256, CV_8U);
   cv::Mat step;  // what lies between two passes
 };
 
