@@ -14,7 +14,7 @@ SMALLEST = 60       # pixels of an area that a child can hit
 FEWEST = 35         # areas of a page
 MOST = 70           # and at most; 60 are better
 # Pages from before these rules: at most 90 areas, inked corners and short lines are not looked for.
-FORMER = set("20".split())
+FORMER = set()
 PATCH = 9           # black may not be wider (two lines that part are 8 together), but for pupils, noses and buttons
 GAP = 7             # a line that ends so near to another one looks as if it had been meant to reach it
 HUES = [(230, 57, 70), (255, 210, 63), (87, 185, 71), (47, 125, 225), (255, 140, 66), (142, 91, 208), (31, 163, 196),
