@@ -3,7 +3,7 @@ from beasts import *
 
 p = Page("07", "Two rabbits steal carrots: the big one pulls with all its might, the small one hushes us; the scarecrow's bird looks on")
 
-def rabbit_head(p, eye="dot", ears=True):
+def rabbit_head(p):
     """In three quarters to the right, round (0, 0), 110 wide."""
     p.one(oval(-4, 0, 54, 46), oval(30, 16, 32, 24))
     p.spot(55, 5, 9, 7)
@@ -69,7 +69,7 @@ with p.at(490, 400, .9):
     p.eye(16, -66, 6, "white", (-.6, 0))
     p.shape("-14 -46!, 6 -46!, -4 -36!", 3)
     p.line("-24 -28, -4 -24, 14 -30")
-    p.one(limb("40 20, 44 -4, 12 -20", 36, 30, 26), limb("10 -18, 0 -38", 18, 15), join=(38, 24, 19))
+    p.one(limb("36 40, 52 12, 18 -10", 34, 30, 26), limb("14 -14, 2 -36", 18, 15), join=(32, 42, 22))
     p.one(limb("-50 20, -66 60, -40 84", 36, 32, 28), join=(-46, 16, 19))
 p.note("basket with loot")
 with p.at(404, 470):

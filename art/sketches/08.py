@@ -3,7 +3,7 @@ from beasts import *
 
 p = Page("08", "A hedgehog carries an apple on its spines; its young runs behind with a leaf, the snail looks up at the apple")
 
-def hedgehog(p, eye="dot"):
+def hedgehog(p):
     """Walking to the right, 300 long, its feet at y = 100."""
     for x in (-64, 54):
         p.one(limb(f"{x} 60, {x - 4} 86", 30, 26), oval(x + 4, 94, 24, 13))
@@ -25,7 +25,7 @@ def hedgehog(p, eye="dot"):
             p.lines("-12 10!, 0 -10!, 12 10!", width=3)
     p.one("96 -20, 92 -46, 112 -58, 130 -44, 122 -22")
     p.spot(202, 12, 14, 12)
-    p.eye(148, -8, 8, eye)
+    p.eye(148, -8, 8)
     p.line("174 32, 162 42, 148 40")
 
 def leaf(x, y, turn, size=1):
@@ -42,7 +42,6 @@ def young(p):
     p.spot(150, 6, 15, 13)
     p.eye(100, -14, 9)
     p.line("120 30, 106 38, 92 32", 3)
-
 
 p.note("hills, tree with a hole, the squirrel looks at the apple")
 p.shape("-10 250, 180 214, 400 250, 640 226!, 640 560!, -10 560!")

@@ -8,7 +8,7 @@ def hoof(p, x, y, w=17, high=20, turn=0):
         p.shape(f"{-w} 0!, {w} 0!, {w + 6} {high}!, {-w - 6} {high}!")
 
 
-def cow_head(p, horns=True, eye="closed", mouth=True):
+def cow_head(p, horns=True, eye="closed"):
     """A cow's head, about 150 wide, the skull round (0, 0), the muzzle to the right."""
     p.shape("-34 -30, -66 -34, -98 -12, -90 6, -60 6, -36 -2")
     if horns:
@@ -17,8 +17,7 @@ def cow_head(p, horns=True, eye="closed", mouth=True):
     p.one("-46 -10, -30 -40, 6 -48, 42 -36, 62 -12, 96 2, 112 24, 108 50, 84 64, 56 58, 28 46, -16 48, -44 24")
     p.shape("58 56, 48 30, 64 -10, 96 2, 114 26, 106 52, 84 64")
     p.spot(98, 18, 5.5, 7, -20)
-    if mouth:
-        p.line("66 47, 80 48, 94 41")
+    p.line("66 47, 80 48, 94 41")
     p.eye(30, -8, 6, eye)
 
 
