@@ -13,8 +13,6 @@ SOURCES = pathlib.Path(__file__).resolve().parent / "pages"
 SMALLEST = 60       # pixels of an area that a child can hit
 FEWEST = 35         # areas of a page
 MOST = 70           # and at most; 60 are better
-# Pages from before these rules: at most 90 areas, inked corners and short lines are not looked for.
-FORMER = set()
 PATCH = 9           # black may not be wider (two lines that part are 8 together), but for pupils, noses and buttons
 GAP = 7             # a line that ends so near to another one looks as if it had been meant to reach it
 HUES = [(230, 57, 70), (255, 210, 63), (87, 185, 71), (47, 125, 225), (255, 140, 66), (142, 91, 208), (31, 163, 196),
@@ -189,8 +187,7 @@ def judge(path, flood_dir):
     found = areas(pixels, width, height)
     large = [a for a in found if len(a) >= SMALLEST]
     crumbs = [a for a in found if len(a) < SMALLEST]
-    former = path.stem in FORMER
-    if not (15 if former else FEWEST) <= len(large) <= (90 if former else MOST):
+    if not FEWEST <= len(large) <= MOST:
         faults.append("too few or too many areas")
     if len(crumbs) > 6:
         faults.append("too many crumbs")
@@ -200,12 +197,11 @@ def judge(path, flood_dir):
     black = 1 - sum(pixels) / len(pixels)
     if not 0.06 <= black <= 0.30:
         faults.append(f"black {black:.0%}")
-    if not former:
-        mask = ~numpy.array(pixels, dtype=bool).reshape(height, width)
-        if spots := inked(mask, declared(SOURCES / f"{path.stem}.svg")):
-            faults.append(f"inked corners {spots}")
-        if ends := short_ends(mask):
-            faults.append(f"lines stop short {ends}")
+    mask = ~numpy.array(pixels, dtype=bool).reshape(height, width)
+    if spots := inked(mask, declared(SOURCES / f"{path.stem}.svg")):
+        faults.append(f"inked corners {spots}")
+    if ends := short_ends(mask):
+        faults.append(f"lines stop short {ends}")
     where = " ".join(f"({a[0] % width},{a[0] // width})" for a in crumbs[:30])
     print(f"{path.stem}: {len(large)} areas, {len(crumbs)} crumbs {where}, largest {biggest:.0%}, black {black:.0%}"
           + ("  FAULTS: " + "; ".join(faults) if faults else "  ok"))
