@@ -63,6 +63,7 @@ for x in range(72, 262, 32):
 p.note("worker in front points")
 with p.at(396, 412):
     p.one(limb("-6 34, -10 70", 34, 34), "-76 150!, -62 80, -14 62, 34 74, 56 150!")
+    p.lines("-48 72, -50 150", "-28 66, -28 150", width=4)
     with p.at(0, -8, 1, -16):
         head(p, "side", "short", mouth="open", brows=None, r=5.8)
         p.shape("-58 -8!, -50 -50, -8 -76, 34 -60, 44 -26!, 76 -16, 40 -8, 0 -18, -30 -8")
