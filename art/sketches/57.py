@@ -1,64 +1,68 @@
 from hand import *
 from people import *
 
-p = Page("57", "Two in a canoe: the big one paddles with all his strength, the small one has let the beaver take the paddle")
+p = Page("57", "Two in a canoe: grandfather paddles with all his strength; the girl shrugs, as the beaver swims off with her paddle")
 
 p.note("mountains, firs, lake")
-p.shape("-10 240!, 90 110!, 150 170!, 220 60!, 330 200!, 380 150!, 470 236!")
-p.shape("178 130!, 220 60!, 272 128!, 244 120!, 222 140!, 202 118!")
-p.shape("-10 246, 160 236, 330 248, 640 236!, 640 560!, -10 560!")
-for x, y, s in ((570, 250, 1.5), (54, 236, .9)):
+p.shape("-10 240!, 60 150!, 110 190!, 300 40!, 400 150!, 440 120!, 560 236!")
+p.shape("236 90!, 300 40!, 350 96!, 326 92!, 304 112!, 280 92!, 258 106!")
+p.shape("-10 236, 160 226, 330 238, 640 226!, 640 560!, -10 560!")
+for x, y, s in ((566, 246, 1.5), (42, 232, .95)):
     with p.at(x, y, s):
         p.shape(box(-7, -24, 14, 30))
         p.shape("0 -150!, 34 -92!, 20 -92!, 48 -20!, -48 -20!, -20 -92!, -34 -92!")
 
-p.note("girl in front, in profile: her hands are empty")
-with p.at(218, 194, .92, flip=True):
-    p.one(arm("16 90, 60 128, 98 118", 30, 24, thumb=-1))
-    p.shape(limb("2 36, -4 62", 28, 28))
-    p.one("-32 62!, 24 58!, 40 100, 44 210!, -70 210!, -52 104")
-    with p.at(6, -6, 1, -4):
-        head(p, "34", "bob", mouth="smile", brows=6)
-        p.shape("-56 -30, -10 -46, 44 -38, 46 -24, -10 -30, -57 -14")
-    p.one(limb("-12 92, 14 134, 44 112", 42, 34, flat=True), arm("42 114, 58 96, 64 78", 28, 24, thumb=-1), join=(-14, 90, 20))
+p.note("girl in the bow, turned round to him, empty-handed")
+with p.at(180, 192):
+    p.shape("-24 -44!, -58 -76, -74 -100!, -60 -104!, -66 -136!, -38 -116, -14 -56!")
+    p.line("-22 -56, -34 -80, -50 -106")
+    p.shape(limb("-2 36, -4 70", 28, 28))
+    p.one(arm("-68 128, -92 114, -106 96", 28, 24, thumb=1))
+    p.one(arm("64 130, 88 116, 104 98", 28, 24, thumb=-1))
+    p.one("-36 64, 0 60, 34 64, 46 110, 52 220!, -54 220!, -48 110", limb("-28 84, -46 126, -74 124", 42, 40, 34, flat=True), limb("26 84, 44 128, 72 124", 42, 40, 34, flat=True))
+    p.line("-26 92!, -14 106!, -2 94!, 10 106!, 22 92!")
+    with p.at(2, 0, 1, -6):
+        head(p, "34", "braid", eyes="white", look=(1, 0), mouth="o", brows=10, r=4.6)
+        p.shape("-56 -30, -10 -50, 42 -40, 46 -24, -10 -34, -57 -12")
 
-p.note("grandfather behind, leaning into the stroke")
-with p.at(428, 168, 1.06, flip=True):
-    p.shape(limb("12 40, 0 72", 34, 34))
-    p.one("-44 74!, 22 60!, 48 104, 50 230!, -74 230!, -66 120")
-    with p.at(20, -6, 1, 12):
-        head(p, "side", "parting", eyes="happy", mouth="smile", brows=None)
-        p.shape("34 30, 26 24, 8 34, -16 10!, -26 24, -30 50, 4 66, 34 52")
-        p.shape("-56 -30, -10 -48, 40 -36, 42 -22, -10 -32, -57 -14")
-    p.shape(limb("-40 110, -64 140, -58 190", 30, 26, 18))
-    p.out.pop()
-    p.shape(limb("120 14, 30 250", 14, 14))
-    p.one(arm("30 90, 78 96, 102 66", 30, 26, thumb=1, grip=True))
-    p.one(limb("-24 104, -4 156, 24 160", 50, 42, flat=True), arm("22 160, 40 160, 52 154", 32, 26, thumb=1, grip=True), join=(-26, 102, 24))
+p.note("grandfather, leaning into the stroke")
+with p.at(446, 0, flip=True):
+    p.shape("-26 104!, -66 74, -84 46!, -70 44!, -78 12!, -46 34, -14 92!")
+    p.line("-24 92, -40 66, -58 42")
+    p.one(limb("30 240, 74 244, 104 214", 42, 36, flat=True))
+    p.shape(limb("22 170, 8 214", 34, 34))
+    p.one("-26 212, 20 202, 50 226, 52 290, 50 400!, -84 400!, -76 310, -60 246")
+    with p.at(26, 142, 1.06, 12):
+        head(p, "side", "long", eyes="closed", mouth="", brows=-4)
+        p.shape("50 22!, 34 18, 24 28, 10 30, 12 48, 30 60, 46 48")
+        p.shape("-58 -26, -10 -50, 38 -38, 42 -22, -10 -34, -58 -6")
 
-p.note("canoe, three quarters, bow to the left")
-p.shape("20 300!, 62 346, 160 360, 320 366, 470 358, 560 330, 604 286!, 612 330, 580 400, 500 440, 330 452, 160 444, 60 400, 24 350")
-p.line("30 332, 120 384, 320 396, 500 384, 606 320", 4)
-for x in (246, 380):
-    p.shape(f"{x - 30} 430!, {x} 404!, {x + 30} 430!")
+p.note("canoe, from the side, bow to the left")
+p.shape("16 284!, 56 342, 160 362, 320 370, 480 362, 562 334, 606 276!, 616 330, 586 400, 500 440, 330 452, 150 444, 56 400, 20 346")
+p.line("27 336, 110 384, 320 400, 500 390, 609 318", 4)
+p.line("120 410!, 150 426!, 180 412!, 210 430!, 240 416!", 4)
+p.line("392 418!, 422 430!, 452 414!, 482 426!, 512 408!", 4)
 
-p.note("grandfather's blade in the water, the beaver with the other paddle")
-p.shape("376 440!, 396 436!, 410 486, 398 512, 374 506, 368 480")
-with p.at(86, 438):
-    p.one(limb("-40 40, -84 52, -96 30", 34, 46, 40))
-    p.one("-44 60, -40 10, -16 -10, 20 -10, 40 16, 44 70, -44 70")
-    p.shape(limb("66 92, 34 -70", 13, 13))
-    p.shape("24 -64!, 44 -68!, 44 -100, 30 -128, 12 -124, 12 -96")
-    p.one(oval(-24, -56, 10), oval(16, -66, 10), "-32 -44, -12 -64, 14 -62, 34 -44, 44 -26, 36 -8, 8 2, -24 -8")
-    
-    p.spot(42, -30, 7, 6)
-    p.eye(16, -40, 5)
-    p.line("24 -12, 16 -12, 10 -18")
-    p.one(limb("-6 14, 24 36, 42 30", 26, 20), oval(46, 28, 12), join=(-6, 14, 15))
-p.shape(scallops([(660, 500), (400, 484), (180, 496), (-40, 486)], 8, .2, closed=False) + [(-40, 580, True), (660, 580, True)])
-p.note("a fish jumps")
-with p.at(530, 452, 1, -30):
-    p.shape("-44 4, -16 -18, 20 -14, 40 0!, 60 -16!, 60 22!, 40 10!, 18 24, -20 22")
-    p.eye(-22, 0, 4)
-    p.line("-2 -18, 4 2, -2 24")
+p.note("his paddle, both hands")
+p.shape("288 444!, 316 450!, 318 486, 306 526, 286 538, 270 520, 272 480")
+p.shape(limb("330 160, 302 452", 14, 14))
+p.shape(limb("316 156, 346 160", 16, 16))
+with p.at(446, 0, flip=True):
+    p.one(arm("102 216, 112 202, 116 194", 30, 28, thumb=-1, grip=True))
+    p.one(arm("96 316, 114 318, 124 318", 32, 28, thumb=-1, grip=True))
+    p.one(limb("-24 250, -8 322, 34 340, 102 316", 58, 54, 46, 38, flat=True), join=(-24, 244, 28))
+
+p.note("the beaver with the other paddle in its teeth")
+with p.at(120, 474):
+    p.one("-60 50, -58 0, -46 -30, -16 -44, 20 -24, 66 4, 90 40, 90 80, -50 80", oval(-54, -2, 28, 20), oval(8, -38, 12, 13))
+    p.spot(-80, -8, 8, 7)
+    p.eye(-40, -22, 5, "happy")
+p.shape("100 474!, 176 462, 226 460!, 250 444, 264 456, 258 476, 232 476!, 176 478!, 102 490!")
+p.out.pop()
+p.tube("30 494, 190 470", 14)
+p.shape("186 464!, 212 446, 246 446, 258 460, 246 474, 214 480, 190 478!")
+with p.at(120, 474):
+    p.shape("-76 8!, -56 10!, -58 26!, -74 24!", 3)
+    p.line("-66 10, -66 24")
+p.shape(scallops([(660, 510), (400, 498), (180, 508), (-40, 500)], 8, .2, closed=False) + [(-40, 580, True), (660, 580, True)])
 p.save()
