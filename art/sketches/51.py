@@ -21,7 +21,7 @@ p.lines("104 10, 64 124", "126 8, 160 120", width=4)
 p.shape(oval(116, 8, 10))
 
 p.note("girl on her knees, in profile, pats the sand")
-with p.at(196, 150):
+with p.at(262, 146):
     p.one(limb("-30 170, 10 190, 50 196", 56, 46), limb("50 196, 0 214, -50 208", 44, 34))
     p.one(arm("20 72, 60 100, 96 132", 32, 26, thumb=-1))
     p.shape(limb("14 24, 6 56", 30, 30))
@@ -53,7 +53,7 @@ for x, t in ((486, -10), (552, 10)):
         p.one("-20 -20, 20 -20, 26 10, 18 56, -18 56, -26 10", *[oval(side * (-18 + 13 * k), -30 + 2.5 * k * k * .6, 9 - k, 10 - k) for k in range(4)])
         p.line("-8 6, 2 10, 10 6")
 p.note("gull on the belly")
-with p.at(398, 284):
+with p.at(478, 304, .86, flip=True):
     p.lines("-8 40, -10 58", "10 40, 8 58", width=4)
     p.shape("-70 -4!, -40 -22, 0 -26, 10 -56, 34 -66, 52 -50, 50 -24, 36 16, 10 40, -24 36, -46 14")
     p.shape("50 -52!, 82 -42, 50 -36!")
