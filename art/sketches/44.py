@@ -45,6 +45,8 @@ p.note("birthday boy, near, in profile, cheeks full of air")
 with p.at(128, 240):
     p.shape(limb("-22 36, -34 84", 36, 36))
     p.one("-76 108, -40 72, 6 78, 30 120, 40 180, 40 360, -140 360, -120 190")
+    with p.within("-76 108, -40 72, 6 78, 30 120, 40 180, 40 360, -140 360, -120 190"):
+        p.lines("-140 176, 60 140", "-140 266, 60 266", width=4)
     with p.at(0, 0, 1.3, 12):
         head(p, "side", "short", eyes="closed", mouth="", brows=None, r=5)
         p.shape("42 20, 52 18, 60 22, 58 28, 46 29", 3)
