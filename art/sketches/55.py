@@ -5,8 +5,8 @@ p = Page("55", "Picnic seen from above: father pours, the girl bites the melon, 
 
 p.note("the wood behind")
 p.shape("-10 96, 140 84, 330 96, 640 78!, 640 560!, -10 560!")
-p.shape("20 -10!, 28 50, 18 106, -10 128!, 98 128!, 70 70, 72 40, 78 -10!")
-p.line("50 24, 48 70")
+p.shape("-10 -10!, -10 128!, 98 128!, 70 70, 72 40, 78 -10!")
+p.line("34 24, 32 80")
 p.shape(scallops("150 90!, 150 50, 200 16, 260 20, 300 56, 300 92!", 6, .3, closed=False))
 p.out.pop()
 p.shape("404 -10!, 408 40, 398 84, 380 104!, 470 104!, 452 80, 448 40, 452 -10!")
