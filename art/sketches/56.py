@@ -17,7 +17,7 @@ with p.at(330, 330, 1, -6):
         p.shape(oval(17, -10, 9, 10), 3)
         p.line("2 12, 2 28")
     p.shape(box(-96, -272, 200, 14))
-    p.shape(box(-92, -90, 192, 13))
+    p.shape(box(-92, -106, 192, 28))
 p.shape("322 14!, 366 6, 398 22, 430 12!, 426 46!, 396 54, 364 40, 324 48!")
 
 p.note("stern, the monkey at the wheel")
