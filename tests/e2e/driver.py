@@ -1,9 +1,22 @@
 """A child made of software: before a screen of its own, with eyes that find controls by their accessible names."""
 import os
 
-from screen import PATIENCE, SCREEN, NotSeen, Screen, stop, until  # the tests take them from here, too
+import screen
+from screen import PATIENCE, SCREEN, NotSeen, Screen, stop  # the tests take them from here, too
 
 LAUNCHERS = ("/usr/libexec/at-spi-bus-launcher", "/usr/lib/at-spi2-core/at-spi-bus-launcher")
+
+
+def until(look, what, seconds=PATIENCE):
+    """Looks again and again, as the screen's own; a program that is too busy to answer now is asked once more."""
+    from gi.repository import GLib  # not before a desktop stands
+
+    def answered():
+        try:
+            return look()
+        except GLib.Error:
+            return None
+    return screen.until(answered, what, seconds)
 
 
 def plain_name(text):

@@ -12,6 +12,8 @@ UNDO, REDO = kraspret.UNDO, "ONGEDAAN maken tenietdoen"  # the redo button; the 
 BACKGROUND = "de kleur van de achtergrond kiezen uit kleurenpalet"
 WIPE, NEW = "het hele blad wissen", "een NIEUWE tekening"
 RESIZE = "het formaat van het tekenblad wijzigen"
+QUESTION = "Nieuwe tekening met aangepast formaat"
+WIDTH, HEIGHT = "Afmetingen van de tekening : breedte wijzigen", "Afmetingen van de tekening : hoogte wijzigen"
 CUT, COPY, PASTE = "Knippen", "Kopiëren", "Plakken"
 PALETTE = "het KLEURENPALET"
 RED, GREEN, BLUE, YELLOW = (255, 0, 0), (0, 255, 0), (0, 0, 255), (255, 255, 0)
@@ -114,3 +116,28 @@ class Studio(cases.StudioCase):
         self.program.wait_no_dialog()
         number = 6 * column + row  # four steps of green, each of four of red, each of three of blue
         return number // 3 % 4 * 85, number // 12 * 85, number % 3 * 255 // 2
+
+    def answer(self, title, text):
+        """Answers a question for a number; None cancels it. Gives what stood in the field."""
+        self.program.wait_dialog(title)
+        field = driver.until(lambda: next((c for c in self.program.controls() if c.role == "text" and c.has("FOCUSED")), None),
+                             "field with the focus")
+        offered = field.text
+        if text is None:
+            self.desktop.key("Escape")
+        else:
+            self.desktop.key("ctrl+a", "Delete")
+            self.desktop.type(text)
+            driver.until(lambda: field.text == text, f"{text!r} in the field")
+            self.desktop.key("Return")
+        driver.until(lambda: not self.program.shows(title), f"end of {title!r}")
+        return offered
+
+    def resize(self, width, height):
+        """Goes through the questions for another size; gives the two numbers that were offered."""
+        self.click(RESIZE)
+        self.program.answer(QUESTION, "Nee")
+        offered = self.answer(WIDTH, width), self.answer(HEIGHT, height)
+        self.program.wait_no_dialog()
+        self.program.wait_says("wijzig hiermee het FORMAAT van je tekenBLAD")
+        return offered

@@ -5,7 +5,7 @@ import driver
 import pdf
 import print_system
 from kraspret import SHEET
-from print_case import CENTIMETRES_PER_PIXEL, PRINT, SAYS, PrintCase
+from print_case import PRINT, SAYS, PrintCase
 
 
 class Paper(PrintCase):
@@ -23,8 +23,7 @@ class Paper(PrintCase):
         sheets = driver.until(self.printer.pages, "paper")
         self.assertEqual(len(sheets), 1)
         page = pdf.Page(sheets[0])
-        width, height = (side * CENTIMETRES_PER_PIXEL for side in SHEET)
-        self.near(page.box, (2, 2, width, height), "picture")
+        self.natural(page, SHEET)
         self.assertEqual(page.picture.rows, self.saved().rows)
 
     def test_a_cancel_prints_no_page(self):

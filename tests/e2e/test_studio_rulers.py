@@ -100,6 +100,16 @@ class Rulers(Studio):
         self.program.wait_gone(HORIZONTAL)
         self.program.wait_gone(VERTICAL)
 
+    def test_the_printers_dialog_opens_above_them(self):
+        self.choose_ruler("BEIDE")
+        self.ruler(HORIZONTAL)
+        self.click("je tekening AFDRUKKEN")
+        self.program.wait_dialog("Afdrukken")
+        window = self.program.wait_window("Afdrukken")
+        self.assertIn("_NET_WM_STATE_ABOVE", self.desktop.property(window, "_NET_WM_STATE"))
+        self.desktop.key("Escape")
+        self.program.wait_no_dialog()
+
     def test_none_without_a_ruler_does_nothing(self):
         self.choose_ruler("GEEN")
         self.assertTrue(self.program.shows(STUDIO))

@@ -9,10 +9,7 @@ import kraspret
 import pixels
 import studio
 from kraspret import BLACK, SHEET
-from studio import Studio, block
-
-QUESTION = "Nieuwe tekening met aangepast formaat"
-WIDTH, HEIGHT = "Afmetingen van de tekening : breedte wijzigen", "Afmetingen van de tekening : hoogte wijzigen"
+from studio import HEIGHT, QUESTION, WIDTH, Studio, block
 
 
 def in_pixels(centimetres):
@@ -31,31 +28,6 @@ class Sheet(Studio):
 
     def tearDown(self):
         pass
-
-    def answer(self, title, text):
-        """Answers a question for a number; None cancels it. Gives what stood in the field."""
-        self.program.wait_dialog(title)
-        field = driver.until(lambda: next((c for c in self.program.controls() if c.role == "text" and c.has("FOCUSED")), None),
-                             "field with the focus")
-        offered = field.text
-        if text is None:
-            self.desktop.key("Escape")
-        else:
-            self.desktop.key("ctrl+a", "Delete")
-            self.desktop.type(text)
-            driver.until(lambda: field.text == text, f"{text!r} in the field")
-            self.desktop.key("Return")
-        driver.until(lambda: not self.program.shows(title), f"end of {title!r}")
-        return offered
-
-    def resize(self, width, height):
-        """Goes through the questions for another size; gives the two numbers that were offered."""
-        self.click(studio.RESIZE)
-        self.program.answer(QUESTION, "Nee")
-        offered = self.answer(WIDTH, width), self.answer(HEIGHT, height)
-        self.program.wait_no_dialog()
-        self.program.wait_says("wijzig hiermee het FORMAAT van je tekenBLAD")
-        return offered
 
     def test_a_dutch_system_shows_and_wants_a_comma(self):
         self.begin_in("nl_NL.UTF-8")

@@ -122,6 +122,34 @@ TEST_F(SmallFiles, ABadPictureOfTheCommandLineIsToldEachTime) {
   EXPECT_TRUE(other.shown());
 }
 
+TEST_F(SmallFiles, PrintingSendsTheSheetTwoCentimetresFromTheCornerAndChangesNothing) {
+  click(studio.cmdEllips);
+  drag(sheet, 100, 100, 140, 120);
+  const Picture drawn = sheet.Image(), undo = studio.picUndo.Picture;
+  studio.cmdUndo.Enabled = false;
+  answerPrinter(true);
+  click(studio.cmdPrint);
+  EXPECT_EQ(asked().back().kind, "printer");
+  ASSERT_EQ(pages.size(), 1u);
+  ASSERT_EQ(pages[0].size(), 1u);
+  EXPECT_EQ(pages[0][0].at.X, 2);
+  EXPECT_EQ(pages[0][0].at.Y, 2);
+  EXPECT_EQ(pages[0][0].picture, drawn);
+  EXPECT_EQ(studio.lblModus.Caption, "je TEKENING AFDRUKKEN");
+  EXPECT_TRUE(samePicture(*sheet.bitmap(), *drawn.bitmap()));
+  EXPECT_EQ(studio.picUndo.Picture, undo);
+  EXPECT_FALSE(studio.cmdUndo.Enabled);
+  EXPECT_EQ(sheet.MousePointer, PointerCross);
+}
+
+TEST_F(SmallFiles, ACancelledPrinterSaysNothingAndPrintsNothing) {
+  answerPrinter(false);
+  click(studio.cmdPrint);
+  EXPECT_TRUE(pages.empty());
+  EXPECT_EQ(asked().size(), 1u);
+  EXPECT_EQ(studio.lblModus.Caption, "je TEKENING AFDRUKKEN");
+}
+
 TEST_F(SmallFiles, HelpHidesTheDrawingAndBringsBackTheOneInstance) {
   // As from the menu: an instance of its own.
   auto& own = showNew<frmTekenen1>();

@@ -210,6 +210,50 @@ TEST_F(RealDialogs, AMessageCannotBeMadeSmallOrLarge) {
   MsgBox("Klaar");
 }
 
+TEST_F(RealDialogs, TheDialogOfThePrinterCannotBeMadeSmallOrLarge) {
+  whenOpen<QDialog>([](QDialog& dialog) {
+    EXPECT_EQ(dialog.windowTitle(), "Afdrukken");
+    EXPECT_FALSE(dialog.windowFlags() & Qt::WindowMinMaxButtonsHint);
+    EXPECT_TRUE(dialog.windowFlags() & Qt::WindowCloseButtonHint);
+    dialog.reject();
+  });
+  EXPECT_FALSE(host().printerDialog());
+}
+
+namespace {
+
+struct Ruler : Form {
+  Ruler() : Form({.Caption = "lat"}) {}
+};
+
+}  // namespace
+
+TEST_F(RealDialogs, AWindowAboveAllOthersCoversNoDialog) {
+  const auto expectAbove = [](bool above) {
+    const auto look = [above](QDialog& dialog) {
+      EXPECT_EQ(bool(dialog.windowFlags() & Qt::WindowStaysOnTopHint), above)
+          << dialog.windowTitle().toStdString();
+      dialog.reject();
+    };
+    whenOpen<QDialog>(look);
+    MsgBox("Ga je door ?", YesNo, "vraag");
+    whenOpen<QDialog>(look);
+    InputBox("Hoe breed ?", "getal", "10");
+    whenOpen<QDialog>(look);
+    host().fileDialog({true, "Alle bestanden|*.*", 1});
+    whenOpen<QDialog>(look);
+    host().colorDialog(Black, 4);
+    whenOpen<QDialog>(look);
+    host().printerDialog();
+    whenOpen<QDialog>(look);
+    host().errorReport("Division by zero", false);
+  };
+  expectAbove(false);
+  the<Ruler>().setTopMost();
+  the<Ruler>().Show();
+  expectAbove(true);
+}
+
 TEST_F(RealDialogs, TheColourDialogStartsAtItsColourAndGivesTheChosenOne) {
   whenOpen<QColorDialog>([](QColorDialog& dialog) {
     EXPECT_EQ(dialog.currentColor(), QColor(0x11, 0x22, 0x33));

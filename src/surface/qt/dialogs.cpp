@@ -42,10 +42,6 @@ QStringList filtersOf(const std::string& filter) {
   return rows;
 }
 
-// A dialog is moved and closed; to make it small or as large as the screen is of no use.
-constexpr Qt::WindowFlags DialogFlags = Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
-                                        Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
-
 // A line in pieces that are no wider than this; one that fits stays as it is.
 void addPieces(const QString& line, const QFontMetrics& metrics, int width, QStringList& pieces) {
   constexpr qsizetype Longest = 1000;  // more letters than fit into any width
@@ -145,6 +141,13 @@ void keepAbove(QDialog& dialog) {
 
 }  // namespace
 
+void prepareDialog(QDialog& dialog) {
+  // To make it small or as large as the screen is of no use.
+  dialog.setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                        Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
+  keepAbove(dialog);
+}
+
 std::string picturesFolder() {
   const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
   return QFile::encodeName(QDir(pictures).exists() ? pictures : QDir::homePath()).toStdString();
@@ -153,8 +156,7 @@ std::string picturesFolder() {
 int msgBox(const std::string& text, int buttons, const std::string& title) {
   showPending();
   QMessageBox box(owner());
-  box.setWindowFlags(DialogFlags);
-  keepAbove(box);
+  prepareDialog(box);
   box.setWindowTitle(titleOf(title));
   box.setTextFormat(Qt::PlainText);
   box.setText(fitting(QString::fromStdString(text), box.fontMetrics()));
@@ -176,8 +178,7 @@ std::optional<std::string> inputBox(const std::string& prompt, const std::string
                                     const std::string& initial) {
   showPending();
   QInputDialog dialog(owner());
-  dialog.setWindowFlags(DialogFlags);
-  keepAbove(dialog);
+  prepareDialog(dialog);
   dialog.setWindowTitle(titleOf(title));
   dialog.setLabelText(QString::fromStdString(prompt));
   dialog.setTextValue(QString::fromStdString(initial));
@@ -217,8 +218,7 @@ std::optional<Color> colorDialog(Color initial, int flags) {
   showPending();
   keepNothing();
   QColorDialog dialog(toQColor(initial), owner());
-  dialog.setWindowFlags(DialogFlags);
-  keepAbove(dialog);
+  prepareDialog(dialog);
   dialog.setWindowTitle("Kleur");
   dialog.setOption(QColorDialog::DontUseNativeDialog);
   if (flags & ReadyColorsOnly) hideMixing(dialog);
@@ -229,8 +229,7 @@ std::optional<Color> colorDialog(Color initial, int flags) {
 namespace {
 
 void fillReport(QMessageBox& box, const QString& what, const std::string& text) {
-  box.setWindowFlags(DialogFlags);
-  keepAbove(box);
+  prepareDialog(box);
   box.setWindowTitle("KRAS PRET");
   box.setIcon(QMessageBox::Critical);
   box.setTextFormat(Qt::PlainText);

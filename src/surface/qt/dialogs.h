@@ -6,7 +6,13 @@
 
 #include "surface/host.h"
 
+class QDialog;
+
 namespace surface::qt {
+
+/// Makes a dialog one that is moved and closed, above all other windows if one of those stays above
+/// all others. Before it is shown.
+void prepareDialog(QDialog& dialog);
 
 /// The user's folder for pictures, or the home folder if there is none.
 std::string picturesFolder();

@@ -10,6 +10,7 @@
 
 #include "surface/dispatch.h"
 #include "surface/errors.h"
+#include "surface/qt/dialogs.h"
 #include "surface/qt/images.h"
 
 namespace surface::qt {
@@ -38,6 +39,7 @@ QPrinter& printer() {
 bool printerDialog() {
   showPending();
   QPrintDialog dialog(&printer(), QApplication::activeWindow());
+  prepareDialog(dialog);
   dialog.setWindowTitle("Afdrukken");
   dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintCollateCopies);
   return dialog.exec() == QDialog::Accepted;
