@@ -141,6 +141,19 @@ class SmallStudio(cases.Case):
         colours = {saved.at(x, y) for x in range(0, SHEET[0], 3) for y in range(0, SHEET[1], 3)}
         self.assertEqual(colours, {BLACK, WHITE})
 
+    def test_a_page_is_chosen_by_keys_alone(self):
+        program = self.program
+        program.control("Kleurplaten").click()
+        program.wait_focus(program.control("kleurplaat 1"))
+        self.desktop.key("Tab", "Down")
+        program.wait_focus(program.control("kleurplaat 3"))
+        self.desktop.key("Return")
+        program.wait_window(SMALL)
+        by_keys = program.sheet_on_screen().rows
+        program.control("Einde").click()
+        self.open_page(3)
+        self.assertEqual(program.sheet_on_screen().rows, by_keys)
+
     def test_closing_the_window_brings_the_menu_back(self):
         self.open_studio()
         self.desktop.close_window(self.program.wait_window(SMALL))

@@ -1,6 +1,9 @@
 // The colouring pages: choosing one of sixty, finding the way between the screens, colouring it.
 #include <gmock/gmock.h>
 
+#include <QApplication>
+#include <QKeyEvent>
+#include <QTest>
 #include <array>
 #include <filesystem>
 #include <vector>
@@ -73,6 +76,10 @@ class Colouring : public script::Stage {
     }
   }
   void choose(int number) { click(open(number)); }
+  void key(Qt::Key code) {
+    QTest::keyClick(QGuiApplication::focusWindow(), code);
+    advance(0);
+  }
   frmTekenen1& studio() { return the<frmTekenen1>(); }
 };
 
@@ -201,6 +208,56 @@ TEST_F(Colouring, ASecondChoiceReplacesOnlyThePicture) {
   EXPECT_EQ(differences(*studio().picBlad.bitmap(), pageImage(20)), 0);
 }
 
+TEST_F(Colouring, ThePagesAreReachedByTabAndChosenByEnter) {
+  auto& page = showNew<frmKleurplaat>();
+  advance(0);
+  for (ImageControl* picture : page.pictures()) {
+    EXPECT_EQ(QApplication::focusWidget(), script::widgetOf(*picture));
+    key(Qt::Key_Tab);
+  }
+  EXPECT_EQ(QApplication::focusWidget(), script::widgetOf(page.cmdKleurplaat2));
+  key(Qt::Key_Backtab);
+  key(Qt::Key_Up);
+  key(Qt::Key_Return);
+  EXPECT_EQ(differences(*studio().picBlad.bitmap(), pageImage(14)), 0);
+}
+
+TEST_F(Colouring, TheTitlesAreReachedByTabAndChosenByTheSpaceBar) {
+  auto& page = showNew<frmKleurplaat4>();
+  advance(0);
+  for (Label* title : page.titles()) {
+    EXPECT_EQ(QApplication::focusWidget(), script::widgetOf(*title));
+    key(Qt::Key_Tab);
+  }
+  key(Qt::Key_Backtab);
+  key(Qt::Key_Left);
+  key(Qt::Key_Right);
+  key(Qt::Key_Space);
+  EXPECT_EQ(differences(*studio().picBlad.bitmap(), pageImage(60)), 0);
+}
+
+TEST_F(Colouring, ThePageThatHasTheKeyboardIsMarked) {
+  auto& page = showNew<frmKleurplaat>();
+  advance(0);
+  script::widgetOf(page.pic2)->setFocus();
+  const QImage with = shown(page.pic2);
+  script::widgetOf(page.pic3)->setFocus();
+  EXPECT_NE(shown(page.pic2), with);
+}
+
+TEST_F(Colouring, AKeyThatIsHeldDownChoosesNothingMore) {
+  auto& page = showNew<frmKleurplaat>();
+  QKeyEvent held(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, " ", true);
+  QApplication::sendEvent(script::widgetOf(page.pic1), &held);
+  EXPECT_TRUE(page.shown());
+  EXPECT_FALSE(isLoaded<frmTekenen1>());
+}
+
+TEST_F(Colouring, AChosenPictureIsThereAgainWhenItsScreenIsMadeAnew) {
+  choose(3);
+  EXPECT_TRUE(showNew<frmKleurplaat>().pic3.Visible);
+}
+
 TEST_F(Colouring, WipingTakesThePageAwayAndTheFlowersStay) {
   choose(3);
   click(studio().cmdClear);
@@ -235,8 +292,10 @@ TEST_F(Colouring, ClosingLeavesTheHiddenStudioAlone) {
   choose(3);
   const auto before = studio().picBlad.Image();
   studio().Hide();
+  the<frmStart>().MousePointer = PointerHourglass;
   click(showNew<frmKleurplaat2>().cmdEinde);
   EXPECT_TRUE(the<frmStart>().shown());
+  EXPECT_EQ(the<frmStart>().MousePointer, PointerDefault);
   EXPECT_FALSE(studio().shown());
   EXPECT_TRUE(samePicture(*studio().picBlad.Image().bitmap(), *before.bitmap()));
 }

@@ -38,6 +38,15 @@ void drawClassicEdge(QPainter& painter, const QRect& area, bool sunken) {
   }
 }
 
+void drawFocus(QPainter& painter, const QRect& area) {
+  const QRect line = area.adjusted(1, 1, -2, -2);
+  painter.setBrush(Qt::NoBrush);
+  painter.setPen(Qt::white);
+  painter.drawRect(line);
+  painter.setPen(QPen(Qt::black, 1, Qt::DotLine));
+  painter.drawRect(line);
+}
+
 ButtonWidget::ButtonWidget(CommandButton& owner, QWidget& parent)
     : QPushButton(&parent), control(&owner) {
   setAttribute(Qt::WA_OpaquePaintEvent);

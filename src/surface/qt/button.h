@@ -28,5 +28,7 @@ class ButtonWidget : public QPushButton {
 
 /// The raised (or sunken) edge of two pixels round a face.
 void drawClassicEdge(QPainter& painter, const QRect& area, bool sunken);
+/// The mark of what has the keyboard, on pictures and texts of any colour.
+void drawFocus(QPainter& painter, const QRect& area);
 
 }  // namespace surface::qt

@@ -1,6 +1,7 @@
 // Controls that only show something. A click is a left release inside, as on any control.
 #include "surface/qt/display_widgets.h"
 
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <algorithm>
@@ -56,7 +57,51 @@ Color groundOf(const Container& container) {
 
 }  // namespace
 
-LabelWidget::LabelWidget(Label& owner, QWidget& parent) : QLabel(&parent), control(&owner) {
+template <class Kind>
+ClickWidget<Kind>::ClickWidget(Kind& owner, QWidget& parent) : QLabel(&parent), control(&owner) {
+  if (owner.Click.handled()) setFocusPolicy(Qt::TabFocus);
+}
+
+template <class Kind>
+void ClickWidget<Kind>::click() {
+  if (control) dispatch([this] { control->Click(); });
+}
+
+// A press that is not taken would go on to the form beneath.
+template <class Kind>
+void ClickWidget<Kind>::mousePressEvent(QMouseEvent* event) {
+  event->accept();
+}
+
+template <class Kind>
+void ClickWidget<Kind>::mouseReleaseEvent(QMouseEvent* event) {
+  event->accept();
+  if (clicks(*this, *event)) click();
+}
+
+// The arrow keys go to the neighbours. A key that is held down clicks once.
+template <class Kind>
+void ClickWidget<Kind>::keyPressEvent(QKeyEvent* event) {
+  switch (event->key()) {
+    case Qt::Key_Space:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      if (!event->isAutoRepeat()) click();
+      break;
+    case Qt::Key_Right:
+    case Qt::Key_Down:
+      focusNextChild();
+      break;
+    case Qt::Key_Left:
+    case Qt::Key_Up:
+      focusPreviousChild();
+      break;
+    default:
+      QLabel::keyPressEvent(event);
+  }
+}
+
+LabelWidget::LabelWidget(Label& owner, QWidget& parent) : ClickWidget(owner, parent) {
   setTextFormat(Qt::PlainText);
   setAttribute(Qt::WA_TransparentForMouseEvents, owner.Framed);
 }
@@ -96,14 +141,7 @@ void LabelWidget::paintEvent(QPaintEvent*) {
   // A line that begins at the left may end at the very edge.
   drawCaption(painter, rect().adjusted(Inset, 0, control->Centred ? -Inset : 0, 0),
               QString::fromStdString(control->Caption), control->Centred);
-}
-
-// A press that is not taken would go on to the form beneath.
-void LabelWidget::mousePressEvent(QMouseEvent* event) { event->accept(); }
-
-void LabelWidget::mouseReleaseEvent(QMouseEvent* event) {
-  event->accept();
-  if (control && clicks(*this, *event)) dispatch([this] { control->Click(); });
+  if (hasFocus()) drawFocus(painter, rect());
 }
 
 FrameWidget::FrameWidget(Frame& owner, QWidget& parent) : QGroupBox(&parent), control(&owner) {
@@ -143,7 +181,7 @@ void FrameWidget::paintEvent(QPaintEvent* event) {
 void FrameWidget::mousePressEvent(QMouseEvent* event) { event->accept(); }
 void FrameWidget::mouseReleaseEvent(QMouseEvent* event) { event->accept(); }
 
-ImageWidget::ImageWidget(ImageControl& owner, QWidget& parent) : QLabel(&parent), control(&owner) {}
+ImageWidget::ImageWidget(ImageControl& owner, QWidget& parent) : ClickWidget(owner, parent) {}
 
 void ImageWidget::sync(Aspect aspect) {
   if (aspect == Aspect::Look) {
@@ -175,13 +213,7 @@ void ImageWidget::paintEvent(QPaintEvent*) {
     drawSquares(painter, shrunk(picture_, place).toImage(), inner, inner);
   }
   if (control->Border) drawClassicEdge(painter, rect(), true);
-}
-
-void ImageWidget::mousePressEvent(QMouseEvent* event) { event->accept(); }
-
-void ImageWidget::mouseReleaseEvent(QMouseEvent* event) {
-  event->accept();
-  if (control && clicks(*this, *event)) dispatch([this] { control->Click(); });
+  if (hasFocus()) drawFocus(painter, inner);
 }
 
 ProgressWidget::ProgressWidget(ProgressBar& owner, QWidget& parent)

@@ -10,17 +10,31 @@
 
 namespace surface::qt {
 
-class LabelWidget : public QLabel {
+/// What a label and an image have in common: a left release inside is a click, and so are Enter and
+/// the space bar on one that answers clicks. The Tab key reaches it then.
+template <class Kind>
+class ClickWidget : public QLabel {
+ public:
+  ClickWidget(Kind& owner, QWidget& parent);
+
+  Kind* control;
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  void click();
+};
+
+class LabelWidget : public ClickWidget<Label> {
  public:
   LabelWidget(Label& owner, QWidget& parent);
   void sync(Aspect aspect);
 
-  Label* control;
-
  protected:
   void paintEvent(QPaintEvent*) override;
-  void mousePressEvent(QMouseEvent* event) override;
-  void mouseReleaseEvent(QMouseEvent* event) override;
 };
 
 class FrameWidget : public QGroupBox {
@@ -36,17 +50,13 @@ class FrameWidget : public QGroupBox {
   void mouseReleaseEvent(QMouseEvent* event) override;
 };
 
-class ImageWidget : public QLabel {
+class ImageWidget : public ClickWidget<ImageControl> {
  public:
   ImageWidget(ImageControl& owner, QWidget& parent);
   void sync(Aspect aspect);
 
-  ImageControl* control;
-
  protected:
   void paintEvent(QPaintEvent*) override;
-  void mousePressEvent(QMouseEvent* event) override;
-  void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:
   void takePicture();

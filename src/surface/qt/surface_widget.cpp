@@ -105,10 +105,7 @@ void SurfaceWidget::press() {
 }
 
 void SurfaceWidget::paintFocus(QPainter& painter) const {
-  painter.setPen(QPen(Qt::white));
-  painter.drawRect(rect().adjusted(1, 1, -2, -2));
-  painter.setPen(QPen(Qt::black, 1, Qt::DotLine));
-  painter.drawRect(rect().adjusted(1, 1, -2, -2));
+  drawFocus(painter, rect());
   if (!choosesPlace()) return;
   const QRect ring(spot_ - QPoint(3, 3), QSize(6, 6));
   painter.setPen(Qt::black);
