@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "effects/frmZoom.h"
 #include "small/small_studio.h"
 
 using namespace surface;
@@ -23,6 +24,8 @@ void SmallStudio::picBlad_MouseDown(const Mouse& at) {
     if (Gereedschap == 2) LijnBezig = 1;
     if (Gereedschap == 3) RechthoekBezig = 1;
   }
+  // A magnifier that the large studio has left open.
+  unloadAll<frmZoom>();
   // Last, so that what the press has drawn is in the snapshot.
   UndoBuffer();
 }
