@@ -132,14 +132,24 @@ TEST_F(Lessons, SeventeenTimesFurtherShowsWhatTheTableSays) {
     EXPECT_TRUE(lesson.cmdSluiten.Visible);
     EXPECT_EQ(sheet.ForeColor, White);
     EXPECT_EQ(painted(), 0);
+    EXPECT_EQ(lesson.lblModus.Caption, step == 9  ? "Klik eens op elke knop."
+                                       : step > 1 ? "ALLES WISSEN voor een NIEUWE TEKENING"
+                                                  : "KRAS PRET !!!");
+    EXPECT_EQ(lesson.lblModus.BackColor, Black);
+    EXPECT_EQ(lesson.lblModus.ForeColor, White);
+    EXPECT_EQ(lesson.lblCursus.BackColor, 0xC0FFFF);
+    EXPECT_EQ(lesson.Shape1.FillColor, Black);
+    EXPECT_EQ(lesson.Line2.BorderColor, Black);
+    EXPECT_EQ(lesson.Line2.BorderWidth, 1);
+    EXPECT_EQ(lesson.Slider1.Value, 1);
+    EXPECT_EQ(sheet.DrawWidth, 1);
+    EXPECT_EQ(sheet.MouseIcon, "curPen");
     EXPECT_EQ(lesson.txt1.Text, step >= 6 ? "1" : "");
     EXPECT_EQ(lesson.txt2.Text, step >= 7 ? "1" : "");
     EXPECT_EQ(lesson.txt3.Text, step == 10 || step == 11 ? "1" : "");
     EXPECT_EQ(lesson.cmdSluiten.Left, step == 17 ? 3720 : 120);
     EXPECT_EQ(lesson.cmdSluiten.Top, step == 17 ? 5160 : 3840);
-    if (step == 9) {
-      EXPECT_EQ(lesson.lblModus.Caption, "Klik eens op elke knop.");
-    }
+    EXPECT_EQ(lesson.cmdSluiten.Caption, "Sluiten");
   }
   EXPECT_FALSE(std::getline(file, *std::make_unique<std::string>())) << "a lesson too many";
 }
@@ -289,6 +299,19 @@ TEST_F(Lessons, SavingWritesTheSmallerSheet) {
   const picture_files::SavedBmp saved(folder() + "/test.bmp");
   EXPECT_EQ(saved.width(), 425);
   EXPECT_EQ(saved.height(), 289);
+}
+
+TEST_F(Lessons, PrintingSendsTheSmallerSheetTwoCentimetresFromTheCorner) {
+  goTo(15);
+  answerPrinter(true);
+  click(lesson.cmdPrint);
+  ASSERT_EQ(pages.size(), 1u);
+  ASSERT_EQ(pages[0].size(), 1u);
+  EXPECT_EQ(pages[0][0].at.X, 2);
+  EXPECT_EQ(pages[0][0].at.Y, 2);
+  EXPECT_EQ(pages[0][0].picture.width(), 425);
+  EXPECT_EQ(pages[0][0].picture.height(), 289);
+  EXPECT_EQ(lesson.lblModus.Caption, "je TEKENING AFDRUKKEN");
 }
 
 TEST_F(Lessons, TheFlowersDoNothing) {

@@ -1,8 +1,10 @@
 // The information screens: the ways back, and texts that can be read, scrolled and believed.
+#include <QGuiApplication>
 #include <QPlainTextEdit>
 #include <QScrollBar>
 #include <QTest>
 
+#include "fantasy/frmFantasie.h"
 #include "info/frmGebruik.h"
 #include "info/frmHelp1.h"
 #include "info/frmHelp2.h"
@@ -63,6 +65,45 @@ TEST_F(Information, ItsCloseBoxIsAWayBackToo) {
   click(menu.cmdInfo);
   closeBox(the<frmInfo>());
   EXPECT_TRUE(menu.shown());
+}
+
+TEST_F(Information, FromTheFantasyMenuItComesBackThere) {
+  auto& info = the<frmInfo>();
+  info.Show();
+  info.txtInfo.Text = "2";
+  click(info.cmdEinde);
+  EXPECT_TRUE(the<frmFantasie>().shown());
+  EXPECT_EQ(loaded(), 1u);
+}
+
+TEST_F(Information, AltAndTheUnderlinedLetterLeadBackFromEveryScreen) {
+  // A button that is pressed by its letter stays down for a tenth of a second.
+  const auto leadsBack = [this](Form& from, Qt::Key letter, auto arrived) {
+    from.Show();
+    advance(0);
+    QTest::keyClick(QGuiApplication::focusWindow(), letter, Qt::AltModifier);
+    return QTest::qWaitFor(arrived) && loaded() == 1;
+  };
+  const auto inMenu = [] { return isLoaded<frmStart>() && the<frmStart>().shown(); };
+  the<frmInfo>().txtInfo.Text = "1";
+  EXPECT_TRUE(leadsBack(the<frmInfo>(), Qt::Key_S, inMenu));
+  Unload(the<frmStart>());
+  EXPECT_TRUE(leadsBack(loadNew<frmGebruik>(), Qt::Key_A, inMenu));
+  Unload(the<frmStart>());
+  EXPECT_TRUE(leadsBack(loadNew<frmHelp1>(), Qt::Key_S, [] { return isLoaded<frmTekenen1>(); }));
+  Unload(the<frmTekenen1>());
+  EXPECT_TRUE(leadsBack(loadNew<frmHelp2>(), Qt::Key_S, [] { return isLoaded<frmTekenen2>(); }));
+}
+
+TEST_F(Information, ItsButtonsAndTitlesAreToldToTheLetter) {
+  EXPECT_EQ(the<frmInfo>().cmdEinde.Caption, "&Sluiten");
+  EXPECT_EQ(loadNew<frmHelp1>().cmdEinde.Caption, "&Sluiten");
+  EXPECT_EQ(loadNew<frmHelp2>().cmdEinde.Caption, "&Sluiten");
+  EXPECT_EQ(loadNew<frmGebruik>().cmdSluit.Caption,
+            "Ik heb de overeenkomst gelezen en ga &akkoord");
+  EXPECT_EQ(the<frmStart>().cmdInfo.Caption, "    &INFO    KRAS PRET");
+  EXPECT_EQ(loadNew<frmKleurplaat>().cmdInfo.Caption, "    &INFO    KRAS PRET");
+  EXPECT_EQ(loadNew<frmKleurplaat>().cmdEinde.Caption, "Sluiten");
 }
 
 TEST_F(Information, FromThePagesItComesBackToTheFirstOfThem) {

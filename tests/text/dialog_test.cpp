@@ -1,5 +1,6 @@
 // The text dialog: its controls, and what each of them sets on the sample, the sheet and the mark.
 #include <QFontMetrics>
+#include <QTest>
 
 #include "support/colors.h"
 #include "surface/host.h"
@@ -121,6 +122,31 @@ TEST_F(TextDialog, SelectsTheSheetsFontAndTheSizeTenWhenItLoads) {
   EXPECT_EQ(the<frmTekst>().cboFont.ListIndex, 3);
   EXPECT_EQ(the<frmTekst>().cboFontSize.Text(), "10");
   EXPECT_EQ(the<frmTekst>().picVoorbeeld.Font.Size, 28);
+}
+
+TEST_F(TextDialog, TheDepthMovesByOneWithTheArrowKeysAndByFiveWithThePageKeys) {
+  frmTekst& form = openAt(100, 50);
+  click(form.chk3Deffect);
+  QWidget* knob = script::widgetOf(form.Slider1);
+  const auto depthAfter = [&](Qt::Key key) {
+    QTest::keyClick(knob, key);
+    return form.Slider1.Value.get();
+  };
+  EXPECT_EQ(depthAfter(Qt::Key_Right), 1);
+  EXPECT_EQ(depthAfter(Qt::Key_PageUp), 6);
+  EXPECT_EQ(depthAfter(Qt::Key_PageUp), 10);
+  EXPECT_EQ(depthAfter(Qt::Key_PageDown), 5);
+  EXPECT_EQ(depthAfter(Qt::Key_Left), 4);
+  EXPECT_EQ(depthAfter(Qt::Key_Home), 0);
+}
+
+TEST_F(TextDialog, LoadsWithASampleInTheCornerToo) {
+  frmTekst& form = the<frmTekst>();
+  LiteralText should = sampleOf(form);
+  should.print(15, 15, Black, Black);
+  should.print(0, 0, Black, Black);
+  EXPECT_TRUE(shows(form.picVoorbeeld, should.canvas()));
+  EXPECT_EQ(form.picVoorbeeld.DrawWidth, 1);
 }
 
 TEST_F(TextDialog, SelectsNoFontWhenTheSheetsIsNotInTheListAndKeepsIt) {

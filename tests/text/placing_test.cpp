@@ -1,4 +1,5 @@
 // Placing text on the sheet: where, in which order and colours, and what comes after.
+#include "effects/frmZoom.h"
 #include "surface/host.h"
 #include "text/text_tool.h"
 
@@ -42,6 +43,14 @@ TEST_F(TextPlacing, AClickMarksThePlaceOutsideThePicture) {
   const QImage seen = shown(sheet);
   EXPECT_NE(seen.pixel(101, 80) & 0xFFFFFF, toPixel(Ground) & 0xFFFFFF);
   EXPECT_EQ(seen.pixel(103, 80) & 0xFFFFFF, toPixel(Ground) & 0xFFFFFF);
+}
+
+TEST_F(TextPlacing, AClickTakesTheMagnifierAwayAndIsOneStepOfUndo) {
+  drag(sheet, 20, 20, 200, 300);
+  click(studio.cmdZoom);
+  openAt(100, 50);
+  EXPECT_FALSE(isLoaded<frmZoom>());
+  EXPECT_TRUE(same(*studio.picUndo.Picture->bitmap(), canvas()));
 }
 
 TEST_F(TextPlacing, TheMarkIsAThinFrameThatLetsThePictureAndThePointerThrough) {
