@@ -15,6 +15,7 @@ packages_test=(libgtest-dev libgmock-dev "${packages_screen[@]}" cups-daemon cup
 packages_bench=(libbenchmark-dev pkg-config libcairo2-dev libopencv-dev libagg-dev libsdl2-gfx-dev
   "${packages_screen[@]}")
 packages_ci=(clang-format clang-tidy)
+packages_debian=(dpkg-dev debhelper fakeroot lintian qt6-translations-l10n)
 
 say() { printf '%s\n' "== $*" >&2; }
 die() { printf '%s\n' "$*" >&2; exit 1; }
