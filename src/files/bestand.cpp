@@ -1,14 +1,11 @@
 // The file flows that the studios share.
 #include "files/bestand.h"
 
-#include <filesystem>
+#include "surface/disk.h"
 
 using namespace surface;
 
-bool BestandBestaat(const std::string& name) {
-  std::error_code error;
-  return std::filesystem::exists(name, error) && !error;
-}
+bool BestandBestaat(const std::string& name) { return fileExists(name); }
 
 void bewaarTekening(CommonDialog& dialog, const PictureBox& sheet) {
   dialog.FileName = "";

@@ -1,8 +1,6 @@
 // Nothing is overwritten, and nothing is read back: the file is a picture like any other.
 #include "files/redding.h"
 
-#include <filesystem>
-
 #include "files/bestand.h"
 #include "surface/disk.h"
 #include "surface/surface.h"
@@ -33,8 +31,6 @@ void redTekeningen(const std::string& folder) {
   for (const Form* studio : formsWithDrawing())
     trapAndLeave([&] {
       const std::string name = vrijeNaam(folder);
-      std::error_code ignored;
-      if (!trapAndLeave([&] { SavePicture(studio->Sheet->Image(), name); }))
-        std::filesystem::remove(name, ignored);
+      if (!trapAndLeave([&] { SavePicture(studio->Sheet->Image(), name); })) removeFile(name);
     });
 }

@@ -1,17 +1,12 @@
 // Reading trusts no name, writing destroys nothing.
 #include "surface/disk.h"
 
-#ifdef _WIN32
-#include <io.h>
-#else
-#include <unistd.h>
-#endif
-
-#include <cerrno>
 #include <filesystem>
 #include <random>
+#include <string>
 #include <system_error>
 
+#include "surface/disk_system.h"
 #include "surface/errors.h"
 
 namespace surface {
@@ -24,20 +19,10 @@ using Writer = std::function<bool(std::FILE*)>;
   throw RuntimeError(ErrorKind::CannotWrite, "File cannot be written");
 }
 
-File open(const fs::path& path, const char* mode) {
-  return File(std::fopen(path.string().c_str(), mode));
-}
+File open(const fs::path& path, Access access) { return File(openNamed(path, access)); }
 
-// Until then a full disk may not have shown itself.
-bool onDisk(std::FILE* file) {
-  if (std::fflush(file) != 0) return false;
-#ifdef _WIN32
-  return _commit(_fileno(file)) == 0;
-#else
-  // Some network folders cannot tell.
-  return fsync(fileno(file)) == 0 || errno == EINVAL || errno == ENOSYS;
-#endif
-}
+// A plain string would be read in the system's code page where that is not UTF-8.
+fs::path pathOf(const std::string& name) { return std::u8string(name.begin(), name.end()); }
 
 bool closed(File file) { return std::fclose(file.release()) == 0; }
 
@@ -83,14 +68,14 @@ bool overwrite(std::FILE* file, const fs::path& path, const Writer& write) {
 void writeInPlace(const fs::path& target, const Writer& write) {
   std::error_code error;
   if (!fs::exists(target, error)) {
-    File file = open(target, "wbx");
+    File file = open(target, Access::Make);
     if (!file) cannotWrite();
     const bool good = write(file.get()) && onDisk(file.get());
     if (closed(std::move(file)) && good) return;
     fs::remove(target, error);
     cannotWrite();
   }
-  const File file = open(target, "r+b");
+  const File file = open(target, Access::Change);
   if (!file) cannotWrite();
   const std::string former = contents(file.get());
   if (overwrite(file.get(), target, write)) return;
@@ -106,21 +91,23 @@ void writeInPlace(const fs::path& target, const Writer& write) {
 
 File openFile(const std::string& path) {
   std::error_code error;
-  const fs::file_status status = fs::status(path, error);
+  const fs::path named = pathOf(path);
+  const fs::file_status status = fs::status(named, error);
   if (!fs::exists(status)) throw RuntimeError(ErrorKind::FileNotFound, "File not found");
-  File file = fs::is_regular_file(status) ? open(path, "rb") : nullptr;
+  File file = fs::is_regular_file(status) ? open(named, Access::Read) : nullptr;
   if (!file) throw RuntimeError(ErrorKind::BadFile, "Invalid picture");
   return file;
 }
 
 void replaceFile(const std::string& path, const Writer& write) {
-  const fs::path target = behindLinks(path);
+  const fs::path target = behindLinks(pathOf(path));
   std::error_code error;
   const fs::file_status former = fs::status(target, error);
-  if (fs::exists(former) && !(fs::is_regular_file(former) && open(target, "r+b"))) cannotWrite();
+  if (fs::exists(former) && !(fs::is_regular_file(former) && open(target, Access::Change)))
+    cannotWrite();
 
   const fs::path beside = nameBeside(target);
-  File file = open(beside, "wbx");
+  File file = open(beside, Access::Make);
   // Some folders, above all on networks, take no second file beside the first.
   if (!file) return writeInPlace(target, write);
   const bool good = write(file.get()) && onDisk(file.get());
@@ -138,6 +125,16 @@ void replaceFile(const std::string& path, const Writer& write) {
   if (!inPlace) cannotWrite();
 }
 
-bool makeFile(const std::string& path) { return open(path, "wbx") != nullptr; }
+bool makeFile(const std::string& path) { return open(pathOf(path), Access::Make) != nullptr; }
+
+void removeFile(const std::string& path) {
+  std::error_code error;
+  fs::remove(pathOf(path), error);
+}
+
+bool fileExists(const std::string& path) {
+  std::error_code error;
+  return fs::exists(pathOf(path), error) && !error;
+}
 
 }  // namespace surface

@@ -1,5 +1,6 @@
 // Files as bytes: opened only if they are files, and written so that no failure costs an older one.
-// Names are the system's own bytes, whatever they mean as text.
+// Names are the system's own bytes, whatever they mean as text; where its names are no bytes,
+// UTF-8.
 #pragma once
 
 #include <cstdio>
@@ -27,5 +28,11 @@ void replaceFile(const std::string& path, const std::function<bool(std::FILE*)>&
 
 /// Makes an empty file; false if there is one of this name, or if it cannot be made.
 bool makeFile(const std::string& path);
+
+/// Takes a file away, if it is there and lets itself be taken away.
+void removeFile(const std::string& path);
+
+/// False also where one may not look.
+bool fileExists(const std::string& path);
 
 }  // namespace surface

@@ -12,7 +12,7 @@
 #include "support/errors.h"
 #include "support/script.h"
 #include "surface/host.h"
-#include "surface/qt/signals.h"
+#include "surface/qt/system.h"
 #include "surface/qt/toolkit.h"
 
 using namespace surface;

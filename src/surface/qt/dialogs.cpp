@@ -88,7 +88,7 @@ QString titleOf(const std::string& text) {
 // Where the child was last, at first among the pictures. The last part of a folder that is not
 // there would be taken for a file's name.
 QString& folder() {
-  static QString last = QFile::decodeName(picturesFolder().c_str());
+  static QString last = QString::fromStdString(picturesFolder());
   return last;
 }
 
@@ -150,7 +150,7 @@ void prepareDialog(QDialog& dialog) {
 
 std::string picturesFolder() {
   const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
-  return QFile::encodeName(QDir(pictures).exists() ? pictures : QDir::homePath()).toStdString();
+  return (QDir(pictures).exists() ? pictures : QDir::homePath()).toStdString();
 }
 
 int msgBox(const std::string& text, int buttons, const std::string& title) {

@@ -1,6 +1,7 @@
 // The screen's fonts through the toolkit.
 #include "surface/qt/fonts.h"
 
+#include <QDir>
 #include <QFont>
 #include <QFontDatabase>
 #include <QFontMetrics>
@@ -62,6 +63,12 @@ TextMask drawnText(const Font& font, const std::string& text) {
 }
 
 }  // namespace
+
+void installTypefaces(const std::string& folder) {
+  const QDir typefaces(QString::fromStdString(folder));
+  for (const QString& name : typefaces.entryList({"*.ttf", "*.otf"}, QDir::Files))
+    QFontDatabase::addApplicationFont(typefaces.filePath(name));
+}
 
 std::vector<std::string> screenFonts() {
   std::vector<std::string> names;

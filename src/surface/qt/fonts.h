@@ -9,6 +9,10 @@
 
 namespace surface::qt {
 
+/// Makes every typeface in a folder one of the screen's, for this program only. A package for a
+/// system that has too few brings such a folder; elsewhere there is none.
+void installTypefaces(const std::string& folder);
+
 /// The families of any size that can write Dutch, in the system's order, each name once.
 std::vector<std::string> screenFonts();
 

@@ -47,8 +47,9 @@ void wrapParagraph(const QString& text, const QFontMetrics& metrics, int width,
 
 QFont toQFont(const Font& font) {
   QFont result(QString::fromStdString(font.Name == "Verdana" ? "DejaVu Sans" : font.Name));
-  // The metric-alike family comes first where the named one is not installed.
-  if (font.Name == "Arial") result.setFamilies({"Arial", "Liberation Sans"});
+  // The metric-alike family that every package brings comes first: what a child writes without
+  // choosing a font has the same dots where the named one is installed.
+  if (font.Name == "Arial") result.setFamilies({"Liberation Sans", "Arial"});
   if (font.Name == "Verdana") result.setFamilies({"Verdana", "DejaVu Sans"});
   result.setPixelSize(std::max(1, static_cast<int>(roundEven(font.Size * 96 / 72))));
   result.setBold(font.Bold);

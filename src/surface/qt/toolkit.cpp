@@ -31,7 +31,7 @@
 #include "surface/qt/images.h"
 #include "surface/qt/pointer.h"
 #include "surface/qt/printing.h"
-#include "surface/qt/signals.h"
+#include "surface/qt/system.h"
 #include "surface/timer.h"
 
 namespace surface::qt {
@@ -59,20 +59,6 @@ void scheduleTimers() {
     alarm->start(static_cast<int>(std::max<std::int64_t>(0, *due - milliseconds())));
   else
     alarm->stop();
-}
-
-// The folder of the path that was typed, with links left as they are: an installed launcher gives
-// each user a folder of his own.
-std::string folderOf(const char* typed) {
-  QString path = QString::fromLocal8Bit(typed);
-  if (!path.contains('/')) path = QStandardPaths::findExecutable(path);
-  return QFileInfo(path).absolutePath().toStdString();
-}
-
-std::string joined(int argc, char** argv) {
-  std::string all;
-  for (int i = 1; i < argc; ++i) all += (i > 1 ? " " : "") + std::string(argv[i]);
-  return all;
 }
 
 // Until the application stands: the toolkit would tell in English what it has tried, and abort.
@@ -135,8 +121,8 @@ void endFromOutside(const Program& program) {
 }
 
 int run(int argc, char** argv, const Program& program) {
-  app().Path = folderOf(argv[0]);
-  app().Command = joined(argc, argv);
+  app() = startedAs(argc, argv);
+  prepareToolkit();
   // The limit on a picture's memory is the program's own.
   qunsetenv("QT_IMAGEIO_MAXALLOC");
   // The toolkit gets none of the command line: all of it names a picture.
@@ -145,6 +131,7 @@ int run(int argc, char** argv, const Program& program) {
   chooseFactor(onlyName, argv);
   QApplication application(onlyName, argv);
   qInstallMessageHandler(usual);
+  installTypefaces(app().Path + "/Lettertypes");
   install();
   QObject::connect(
       &application, &QGuiApplication::commitDataRequest, &application,

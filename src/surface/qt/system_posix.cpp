@@ -1,22 +1,36 @@
-// The handler does nothing but write a byte into a pipe; the event loop reads it.
-#include "surface/qt/signals.h"
-
-#include <QtGlobal>
-
-#ifdef Q_OS_UNIX
-
+// The start from a shell or a launcher, and the signals: a handler does nothing but write a byte
+// into a pipe, which the event loop reads.
 #include <fcntl.h>
 #include <unistd.h>
 
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QSocketNotifier>
+#include <QStandardPaths>
 #include <array>
 #include <cerrno>
 #include <csignal>
+#include <string>
 #include <utility>
+
+#include "surface/qt/system.h"
 
 namespace surface::qt {
 namespace {
+
+// The folder of the path that was typed, with links left as they are: an installed launcher gives
+// each user a folder of his own.
+std::string folderOf(const char* typed) {
+  QString path = QString::fromLocal8Bit(typed);
+  if (!path.contains('/')) path = QStandardPaths::findExecutable(path);
+  return QFileInfo(path).absolutePath().toStdString();
+}
+
+std::string joined(int argc, char** argv) {
+  std::string all;
+  for (int i = 1; i < argc; ++i) all += (i > 1 ? " " : "") + std::string(argv[i]);
+  return all;
+}
 
 constexpr unsigned SecondsToEnd = 2;
 
@@ -47,6 +61,10 @@ void handle(int signal, void (*handler)(int)) {
 
 }  // namespace
 
+App startedAs(int argc, char** argv) { return {folderOf(argv[0]), joined(argc, argv)}; }
+
+void prepareToolkit() {}
+
 void whenAskedToEnd(std::function<void()> act) {
   if (pipe2(askedPipe.data(), O_CLOEXEC | O_NONBLOCK) != 0) return;
   auto* notifier =
@@ -62,11 +80,3 @@ void whenAskedToEnd(std::function<void()> act) {
 }
 
 }  // namespace surface::qt
-
-#else
-
-namespace surface::qt {
-void whenAskedToEnd(std::function<void()>) {}
-}  // namespace surface::qt
-
-#endif

@@ -1,0 +1,49 @@
+// The start of the program on Windows, in wide letters: the narrow command line has lost those that
+// the system's code page lacks.
+#include <windows.h>
+// It needs the types of the one above.
+#include <shellapi.h>
+
+#include <QFileInfo>
+#include <QString>
+#include <QtGlobal>
+#include <memory>
+#include <string>
+
+#include "surface/qt/system.h"
+
+namespace surface::qt {
+namespace {
+
+constexpr DWORD LongestPath = 32768;
+
+std::string programFolder() {
+  std::wstring path(LongestPath, L'\0');
+  const DWORD length = GetModuleFileNameW(nullptr, path.data(), LongestPath);
+  return QFileInfo(QString::fromWCharArray(path.data(), static_cast<int>(length)))
+      .absolutePath()
+      .toStdString();
+}
+
+std::string commandLine() {
+  int count = 0;
+  const std::unique_ptr<wchar_t*, decltype(&LocalFree)> words(
+      CommandLineToArgvW(GetCommandLineW(), &count), &LocalFree);
+  QStringList all;
+  for (int i = 1; words && i < count; ++i) all += QString::fromWCharArray(words.get()[i]);
+  return all.join(' ').toStdString();
+}
+
+}  // namespace
+
+App startedAs(int, char**) { return {programFolder(), commandLine()}; }
+
+void prepareToolkit() {
+  // Letters by the engine that draws them elsewhere too have the same dots.
+  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+    qputenv("QT_QPA_PLATFORM", "windows:fontengine=freetype");
+}
+
+void whenAskedToEnd(std::function<void()>) {}
+
+}  // namespace surface::qt
