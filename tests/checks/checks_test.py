@@ -115,7 +115,7 @@ class BadSamples(unittest.TestCase):
         for words in ("/wo" + "rk/main/x", "/ro" + "ot/.cache/", "/ho" + "me/jan/x", "C:\\Us" + "ers\\jan",
                       "http://deb.de" + "bian.org/", "registry.npm" + "js.org"):
             self.finds(check, "docs/x.md", f"See {words}\n")
-        self.finds(check, "docs/x.md", "See /usr/bin/python3, ${HOME}/work/x and src/root/x\n", 0)
+        self.finds(check, "docs/x.md", "See /usr/bin/python3, ${HOME}/work/x, src/root/x and https://www.debian.org/doc/\n", 0)
 
 
 class Headers(unittest.TestCase):

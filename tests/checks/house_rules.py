@@ -14,7 +14,8 @@ OUTSIDE_TEXTS = re.compile(r"\bparts? [0-9]+\.[0-9]+|\bspec\.md|\bspecification\
                            r"|\bas (specified|described) in|\bdesign\.md|\bdesign's section", re.IGNORECASE)
 UNDONE = re.compile(r"\bTO[D]O\b|\bFIX[M]E\b|\bXX[X]\b|GTEST_[S]KIP|\bDISABLE[D]_|not [i]mplemented|place[h]older")
 MACHINE_PATHS = re.compile(r"(?<![\w.}$])/(work|root|home/[a-z]\w*|Users/\w+|mnt/\w+)/|\b[A-Z]:\\\\?Users\b")
-REGISTRIES = re.compile(r"deb[.]debian|debian[.]org|npmjs[.]|pypi[.]|pythonhosted[.]|crates[.]io|archive[.]ubuntu",
+# A copyright file names the page of its own format, which is no host of packages.
+REGISTRIES = re.compile(r"deb[.]debian|(?<!/www[.])debian[.]org|npmjs[.]|pypi[.]|pythonhosted[.]|crates[.]io|archive[.]ubuntu",
                         re.IGNORECASE)
 
 
