@@ -15,7 +15,14 @@ packages_test=(libgtest-dev libgmock-dev "${packages_screen[@]}" cups-daemon cup
 packages_bench=(libbenchmark-dev pkg-config libcairo2-dev libopencv-dev libagg-dev libsdl2-gfx-dev
   "${packages_screen[@]}")
 packages_ci=(clang-format clang-tidy)
-packages_debian=(dpkg-dev debhelper fakeroot lintian qt6-translations-l10n)
+packages_packaging=(shellcheck desktop-file-utils appstream groff g++-mingw-w64-x86-64-posix)
+packages_debian=(dpkg-dev debhelper fakeroot lintian git qt6-translations-l10n)
+packages_windows=(cmake ninja-build g++-mingw-w64-x86-64-posix nsis zip dpkg-dev git python3 qt6-base-dev
+  qt6-translations-l10n)
+# Typefaces that the package for Windows brings along: more than twelve families, whatever the system has.
+packages_windows_fonts=(fonts-liberation2 fonts-dejavu-core fonts-dejavu-extra fonts-crosextra-carlito
+  fonts-crosextra-caladea fonts-comic-neue fonts-sil-andika fonts-quicksand fonts-oldstandard)
+packages_wine=(wine wine64 googletest "${packages_screen[@]}")
 
 say() { printf '%s\n' "== $*" >&2; }
 die() { printf '%s\n' "$*" >&2; exit 1; }
