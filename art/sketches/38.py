@@ -6,7 +6,12 @@ p = Page("38", "Children trim the Christmas tree: a girl on the steps reaches fo
 p.note("room: window with snow, floor")
 p.line("-10 420, 640 420", 4)
 p.shape(box(24, 30, 124, 180))
-p.line("24 92, 148 92", 4)
+with p.within(box(24, 30, 124, 180)):
+    p.shape("0 128, 60 112, 120 122, 180 108, 180 240, 0 240")
+    p.one(oval(92, 74, 19, 18), oval(90, 120, 30, 32))
+    p.eye(86, 70, 2.6)
+    p.eye(98, 70, 2.6)
+p.put(f'<path fill="none" d="{p.path(box(24, 30, 124, 180))}"/>')
 
 p.note("tree: pot, trunk, three tiers")
 p.shape("330 440!, 330 480!, 374 480!, 374 440!")
@@ -46,10 +51,10 @@ with p.at(380, 58, 1.05, 8):
 p.note("boy hands up a bauble")
 with p.at(120, 0):
     p.one(arm("26 286, 80 270, 112 236", 32, 26, 22, thumb=-1))
-    p.one(limb("16 400, 22 450, 20 492", 42, 32))
-    shoe(p, 20, 502, 0, 1.1)
-    p.one(limb("-18 400, -24 450, -30 490", 44, 32))
-    shoe(p, -30, 502, 0, 1.1)
+    p.one(limb("12 400, 12 450, 10 492", 42, 32))
+    shoe(p, 10, 502, 0, 1.1)
+    p.one(limb("-18 400, -20 450, -22 490", 44, 32))
+    shoe(p, -22, 502, 0, 1.1)
     p.shape(limb("-4 250, -6 280", 28, 28))
     p.one("-34 284, -4 270, 28 278, 40 320, 40 410!, -42 410!, -44 330")
     p.shape("-42 396!, 0 404, 40 396!, 44 424, 0 432, -46 424")
