@@ -1,7 +1,7 @@
 from hand import *
 from people import *
 
-p = Page("26", "A balloon over the fields: one child waves to the cow, one looks through a spyglass, the cat reaches for a stork")
+p = Page("26", "A balloon over the fields: one child waves to the cow that looks up, one watches a stork, the cat peeps over the rim")
 
 p.note("the land from above: fields, canal, tulips")
 p.line("-10 250, 640 230", 4)

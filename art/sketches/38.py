@@ -1,7 +1,7 @@
 from hand import *
 from people import *
 
-p = Page("38", "Children trim the Christmas tree: a girl on the steps reaches for the top, a boy hands up the star, the cat has wound itself in the garland")
+p = Page("38", "Children trim the Christmas tree: a girl on the steps sets the star, a boy hands up a bauble, the cat has wound itself in the garland")
 
 p.note("room: window with snow, floor")
 p.line("-10 420, 640 420", 4)
