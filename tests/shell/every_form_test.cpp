@@ -125,7 +125,12 @@ bool fire(Control& control) {
 
 class EveryForm : public script::Stage, public testing::WithParamInterface<Opening> {
  protected:
-  EveryForm() { app().Path = KRASPRET_TREE; }
+  // A folder of its own for what the program writes beside itself.
+  EveryForm() {
+    std::filesystem::create_directory_symlink(std::string(KRASPRET_TREE) + "/Beeld",
+                                              folder() + "/Beeld");
+    app().Path = folder();
+  }
 
   // No to every question, a cancel for every dialog.
   void declineEverything() {

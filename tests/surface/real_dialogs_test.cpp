@@ -6,7 +6,9 @@
 #include <QClipboard>
 #include <QColorDialog>
 #include <QComboBox>
+#include <QCompleter>
 #include <QFileDialog>
+#include <QFileIconProvider>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QMimeData>
@@ -208,6 +210,33 @@ TEST_F(RealDialogs, AMessageCannotBeMadeSmallOrLarge) {
     choose(box, "OK");
   });
   MsgBox("Klaar");
+}
+
+// What it would read for that has held it up for seconds.
+TEST_F(RealDialogs, TheDialogOfThePrinterOffersNoFilesWhileANameIsTyped) {
+  whenOpen<QDialog>([](QDialog& dialog) {
+    EXPECT_FALSE(dialog.findChildren<QLineEdit*>().empty());
+    for (const QLineEdit* field : dialog.findChildren<QLineEdit*>())
+      EXPECT_EQ(field->completer(), nullptr);
+    dialog.reject();
+  });
+  EXPECT_FALSE(host().printerDialog());
+}
+
+TEST_F(RealDialogs, AFileDialogShowsFoldersAndFilesByTwoIconsOnly) {
+  std::filesystem::create_directory(folder() + "/map");
+  for (const char* name : {"/a.bmp", "/b.gif", "/c"}) std::ofstream(folder() + name) << "x";
+  whenOpen<QFileDialog>([&](QFileDialog& dialog) {
+    const auto icon = [&](const char* name) {
+      return dialog.iconProvider()->icon(QFileInfo(QString::fromStdString(folder() + name)));
+    };
+    EXPECT_EQ(icon("/a.bmp").cacheKey(), icon("/b.gif").cacheKey());
+    EXPECT_EQ(icon("/a.bmp").cacheKey(), icon("/c").cacheKey());
+    EXPECT_NE(icon("/a.bmp").cacheKey(), icon("/map").cacheKey());
+    EXPECT_FALSE(icon("/c").isNull());
+    dialog.reject();
+  });
+  EXPECT_EQ(host().fileDialog({false, "Alle bestanden|*.*", 1}), std::nullopt);
 }
 
 TEST_F(RealDialogs, TheDialogOfThePrinterCannotBeMadeSmallOrLarge) {

@@ -8,6 +8,7 @@
 #include <QColorDialog>
 #include <QDir>
 #include <QFileDialog>
+#include <QFileIconProvider>
 #include <QHeaderView>
 #include <QImageReader>
 #include <QInputDialog>
@@ -17,6 +18,7 @@
 #include <QScreen>
 #include <QSettings>
 #include <QStandardPaths>
+#include <QStyle>
 #include <QToolButton>
 #include <QTreeView>
 #include <algorithm>
@@ -125,6 +127,18 @@ void protectFiles(QFileDialog& dialog) {
   }
 }
 
+// A folder or a sheet. The toolkit's own would look for each file's kind in every icon theme, and a
+// folder of many pictures would take seconds.
+class PlainIcons : public QFileIconProvider {
+ public:
+  QIcon icon(const QFileInfo& file) const override { return file.isDir() ? folder_ : sheet_; }
+  QIcon icon(IconType kind) const override { return kind == File ? sheet_ : folder_; }
+
+ private:
+  const QIcon folder_ = QApplication::style()->standardIcon(QStyle::SP_DirIcon);
+  const QIcon sheet_ = QApplication::style()->standardIcon(QStyle::SP_FileIcon);
+};
+
 // Dialogs of the toolkit write down their sizes and where they were. Beneath a file nothing can be
 // made.
 void keepNothing() {
@@ -191,7 +205,9 @@ std::optional<std::string> inputBox(const std::string& prompt, const std::string
 std::optional<std::string> fileDialog(const FileRequest& request) {
   showPending();
   keepNothing();
+  PlainIcons icons;  // the dialog uses it until it is gone
   QFileDialog dialog(owner(), request.save ? "Opslaan als" : "Openen", folder());
+  dialog.setIconProvider(&icons);
   keepAbove(dialog);
   dialog.setOption(QFileDialog::DontUseNativeDialog);
   // The program asks about an existing name itself.

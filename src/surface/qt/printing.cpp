@@ -2,6 +2,8 @@
 #include "surface/qt/printing.h"
 
 #include <QApplication>
+#include <QFileSystemModel>
+#include <QLineEdit>
 #include <QPageSize>
 #include <QPainter>
 #include <QPrintDialog>
@@ -34,12 +36,20 @@ QPrinter& printer() {
   return *thePrinter;
 }
 
+// The field for a file's name offers what begins alike, and reads whole folders for it with an icon
+// for each file: in a large one the dialog would stand still for seconds.
+void offerNothing(QPrintDialog& dialog) {
+  for (QLineEdit* field : dialog.findChildren<QLineEdit*>()) field->setCompleter(nullptr);
+  qDeleteAll(dialog.findChildren<QFileSystemModel*>());
+}
+
 }  // namespace
 
 bool printerDialog() {
   showPending();
   QPrintDialog dialog(&printer(), QApplication::activeWindow());
   prepareDialog(dialog);
+  offerNothing(dialog);
   dialog.setWindowTitle("Afdrukken");
   dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintCollateCopies);
   return dialog.exec() == QDialog::Accepted;
