@@ -283,6 +283,20 @@ TEST_F(TextDialog, TickingDepthWhileOutlineIsTickedLeavesBothUntickedAndOutlineD
   EXPECT_TRUE(form.chkBuiten.Enabled);
 }
 
+TEST_F(TextDialog, AnEffectThatCannotBeChosenIsGrey) {
+  frmTekst& form = openAt(100, 50);
+  const auto blackPixels = [&] {
+    const QImage seen = shown(form.chkBuiten);
+    int count = 0;
+    for (int y = 0; y < seen.height(); ++y)
+      for (int x = seen.height(); x < seen.width(); ++x) count += qGray(seen.pixel(x, y)) < 60;
+    return count;
+  };
+  EXPECT_GT(blackPixels(), 20);
+  click(form.chk3Deffect);
+  EXPECT_EQ(blackPixels(), 0);
+}
+
 TEST_F(TextDialog, TickingDepthLeavesRaisedTickedAndRaisedWins) {
   frmTekst& form = openAt(100, 50);
   click(form.chkVerhoogd);

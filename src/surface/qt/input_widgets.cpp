@@ -114,6 +114,9 @@ void CheckWidget::sync(Aspect aspect) {
   if (aspect == Aspect::Look) {
     setFont(toQFont(control->Font));
     applyColors(*this, control->BackColor, Black);
+    QPalette colours = palette();
+    colours.setColor(QPalette::Disabled, QPalette::WindowText, QColor(0x80, 0x80, 0x80));
+    setPalette(colours);
     setText(QString::fromStdString(control->Caption));
   }
   if (aspect == Aspect::Value) setChecked(control->Value != 0);
