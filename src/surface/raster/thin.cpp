@@ -241,9 +241,22 @@ void solidThinLine(Bitmap& bitmap, Ink ink, int x1, int y1, int x2, int y2) {
 
 void brokenThinLine(Bitmap& bitmap, Ink ink, Pattern pattern, int x1, int y1, int x2, int y2,
                     std::int64_t step) {
-  draw(bitmap, x1, y1, x2, y2, [ink, pattern, step](Pixel* p, Wide i) {
-    if (pattern.isOn(step + i)) *p = ink.over(*p);
-  });
+  if (x1 == x2 && y1 == y2) return;
+  const LineCourse course(x1, y1, x2, y2);
+  const Part part = course.visible(bitmap, x1, y1);
+  if (part.first > part.last) return;
+  // The pattern turns along with the pixels: a remainder for each would cost more than the pixel.
+  pattern.turn(step + part.first);
+  if (ink.covers()) {
+    walk(bitmap, course, part, x1, y1, [&pattern, color = ink.flip](Pixel* p, Wide) {
+      __builtin_prefetch(p, 1);
+      if (pattern.next()) *p = color;
+    });
+  } else {
+    walk(bitmap, course, part, x1, y1, [&pattern, ink](Pixel* p, Wide) {
+      if (pattern.next()) *p = ink.over(*p);
+    });
+  }
 }
 
 }  // namespace raster

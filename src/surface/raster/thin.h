@@ -14,6 +14,18 @@ class Pattern {
   explicit constexpr Pattern(PenStyle style) : bits_(bitsOf(style)) {}
   constexpr bool isOn(std::int64_t step) const { return (bits_ >> step % kLength & 1) != 0; }
 
+  /// Begins `steps` pixels further on.
+  constexpr void turn(std::int64_t steps) {
+    const auto by = static_cast<int>(steps % kLength);
+    bits_ = (bits_ >> by | bits_ << (kLength - by)) & run(0, kLength);
+  }
+  /// Whether the pen paints its next pixel; it goes on to the one behind it.
+  constexpr bool next() {
+    const std::uint32_t on = bits_ & 1;
+    bits_ = bits_ >> 1 | on << (kLength - 1);
+    return on != 0;
+  }
+
  private:
   static constexpr int kLength = 24;
   /// `count` pixels from `first` on.
