@@ -13,7 +13,7 @@ namespace surface {
 /// last cleared.
 class Tiles {
  public:
-  static constexpr int Side = 32;  ///< pixels
+  static constexpr int Side = 16;  ///< pixels; a star or a spark takes as many as it touches
 
   /// Starts anew for a surface of this size in pixels, with nothing painted.
   void reset(int width, int height);

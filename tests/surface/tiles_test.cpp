@@ -33,7 +33,7 @@ TEST(Tiles, TwoFarDotsDoNotTakeInWhatLiesBetween) {
   tiles.reset(600, 500);
   tiles.paint({3, 3, 4, 4});
   tiles.paint({500, 400, 501, 401});
-  EXPECT_EQ(tiles.takeUnshown(), list({{3, 3, 32, 32}, {480, 384, 501, 401}}));
+  EXPECT_EQ(tiles.takeUnshown(), list({{3, 3, 16, 16}, {496, 400, 501, 401}}));
 }
 
 TEST(Tiles, WhatLiesOutsideCountsForNothing) {

@@ -37,7 +37,7 @@ std::vector<Cell> cells(double start, double scale, int from, int count, int las
     if (first < 0 || first >= last)
       all.push_back({std::clamp(first, 0, last), 0});
     else
-      all.push_back({first, static_cast<unsigned>(std::lround(std::clamp(share, 0.0, 1.0) * 256))});
+      all.push_back({first, static_cast<unsigned>(std::clamp(share, 0.0, 1.0) * 256 + 0.5)});
   }
   return all;
 }
@@ -51,9 +51,66 @@ Pixel mixed(Pixel a, Pixel b, unsigned share) {
   return high | low;
 }
 
+// All pixels of two rows by one share, a few at a time in the wide registers.
+void mixRows(const Pixel* upper, const Pixel* lower, unsigned share, Pixel* to, std::size_t count) {
+  for (std::size_t i = 0; i < count; ++i) to[i] = mixed(upper[i], lower[i], share);
+}
+
 const Pixel* rowOf(const QImage& image, int y) {
   return reinterpret_cast<const Pixel*>(image.constScanLine(y));
 }
+
+// An image that fills a place, within bounds in device pixels. What of it is drawn there together
+// shares the reckoning of the cells.
+class Squares {
+ public:
+  Squares(const QImage& image, const QRectF& place, const QRect& bounds)
+      : image_(image),
+        corner_(bounds.topLeft()),
+        across_(cells(place.x(), place.width() / image.width(), bounds.x(), bounds.width(),
+                      image.width() - 1)),
+        down_(cells(place.y(), place.height() / image.height(), bounds.y(), bounds.height(),
+                    image.height() - 1)) {}
+
+  /// Paints a part of the bounds into the upper left corner of a block.
+  void paint(const QRect& part, QImage& block) {
+    first_ = across_.data() + (part.x() - corner_.x());
+    held_ = {-1, -1};
+    const auto width = static_cast<std::size_t>(part.width());
+    for (std::vector<Pixel>& line : lines_) line.resize(width);
+    for (int y = 0; y < part.height(); ++y) {
+      const Cell& cell = down_[static_cast<std::size_t>(part.y() - corner_.y() + y)];
+      auto* to = reinterpret_cast<Pixel*>(block.scanLine(y));
+      const Pixel* upper = widened(cell.first);
+      if (cell.share)
+        mixRows(upper, widened(cell.first + 1), cell.share, to, width);
+      else
+        std::memcpy(to, upper, width * sizeof(Pixel));
+    }
+  }
+
+ private:
+  // A row of the image, widened. Two neighbours are at hand, so that each is widened once.
+  const Pixel* widened(int y) {
+    const std::size_t slot = static_cast<std::size_t>(y) % 2;
+    std::vector<Pixel>& line = lines_[slot];
+    if (held_[slot] == y) return line.data();
+    held_[slot] = y;
+    const Pixel* from = rowOf(image_, y);
+    std::transform(first_, first_ + line.size(), line.begin(), [from](const Cell& cell) {
+      const Pixel* pixel = from + cell.first;
+      return cell.share ? mixed(pixel[0], pixel[1], cell.share) : pixel[0];
+    });
+    return line.data();
+  }
+
+  const QImage& image_;
+  QPoint corner_;
+  std::vector<Cell> across_, down_;
+  const Cell* first_ = nullptr;  // of the part
+  std::array<std::vector<Pixel>, 2> lines_;
+  std::array<int, 2> held_{-1, -1};
+};
 
 }  // namespace
 
@@ -96,51 +153,32 @@ QRect damaged(const QRect& changed, double factor) {
 }
 
 QImage enlarged(const QImage& image, const QRectF& place, const QRect& wanted) {
-  const auto across = cells(place.x(), place.width() / image.width(), wanted.x(), wanted.width(),
-                            image.width() - 1);
-  const auto down = cells(place.y(), place.height() / image.height(), wanted.y(), wanted.height(),
-                          image.height() - 1);
-  // A row of the image, widened. Two neighbours are at hand, so that each is widened once.
-  std::array<std::vector<Pixel>, 2> lines;
-  std::array<int, 2> held{-1, -1};
-  const auto widened = [&](int y) {
-    const std::size_t slot = static_cast<std::size_t>(y) % 2;
-    if (held[slot] == y) return lines[slot].data();
-    held[slot] = y;
-    lines[slot].resize(across.size());
-    const Pixel* from = rowOf(image, y);
-    std::transform(across.begin(), across.end(), lines[slot].begin(), [from](const Cell& cell) {
-      const Pixel* pixel = from + cell.first;
-      return cell.share ? mixed(pixel[0], pixel[1], cell.share) : pixel[0];
-    });
-    return lines[slot].data();
-  };
   QImage result(wanted.size(), image.format());
-  for (int y = 0; y < wanted.height(); ++y) {
-    const Cell& cell = down[static_cast<std::size_t>(y)];
-    auto* to = reinterpret_cast<Pixel*>(result.scanLine(y));
-    const Pixel* upper = widened(cell.first);
-    if (cell.share) {
-      const Pixel* lower = widened(cell.first + 1);
-      std::transform(upper, upper + across.size(), lower, to,
-                     [&cell](Pixel a, Pixel b) { return mixed(a, b, cell.share); });
-    } else {
-      std::memcpy(to, upper, across.size() * sizeof(Pixel));
-    }
-  }
+  Squares(image, place, wanted).paint(wanted, result);
   return result;
 }
 
-void drawSquares(QPainter& painter, const QImage& image, const QRect& place, const QRect& part) {
+void drawSquares(QPainter& painter, const QImage& image, const QRect& place, const QRegion& part) {
   if (image.isNull()) return;
   const DevicePixels device(painter);
   const QRectF filled = device.exact(place);
-  const QRect wanted = device.exact(part).toAlignedRect() & filled.toAlignedRect();
-  // In bands: all of a large sheet at once would be as much memory as the screen.
-  constexpr int Band = 128;
-  for (int top = wanted.top(); top <= wanted.bottom(); top += Band) {
-    const QRect band = wanted & QRect(wanted.left(), top, wanted.width(), Band);
-    painter.drawImage(band.topLeft(), enlarged(image, filled, band));
+  const auto wanted = [&](const QRect& area) {
+    return device.exact(area).toAlignedRect() & filled.toAlignedRect();
+  };
+  Squares squares(image, filled, wanted(part.boundingRect()));
+  QImage block;
+  for (const QRect& area : part) {
+    const QRect all = wanted(area);
+    // In bands: all of a large sheet at once would be as much memory as the screen, and the toolkit
+    // calls for threads from 2^16 pixels on, which takes longer than to copy them.
+    const int rows = std::clamp(0xFFFF / std::max(1, all.width()), 1, 128);
+    for (int top = all.top(); top <= all.bottom(); top += rows) {
+      const QRect band = all & QRect(all.left(), top, all.width(), rows);
+      if (block.width() < band.width() || block.height() < band.height())
+        block = QImage(block.size().expandedTo(band.size()), image.format());
+      squares.paint(band, block);
+      painter.drawImage(band.topLeft(), block, QRect(QPoint(), band.size()));
+    }
   }
 }
 

@@ -6,6 +6,7 @@
 #include <QImage>
 #include <QPainter>
 #include <QRect>
+#include <QRegion>
 #include <QSize>
 #include <QTransform>
 #include <optional>
@@ -38,7 +39,7 @@ QImage enlarged(const QImage& image, const QRectF& place, const QRect& wanted);
 
 /// Draws the part of an image that lies in `part` when it fills `place`; both in the painter's own
 /// pixels.
-void drawSquares(QPainter& painter, const QImage& image, const QRect& place, const QRect& part);
+void drawSquares(QPainter& painter, const QImage& image, const QRect& place, const QRegion& part);
 
 /// While it lives, the painter counts in device pixels.
 class DevicePixels {

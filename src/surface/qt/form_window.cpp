@@ -112,7 +112,7 @@ FormCanvas::FormCanvas(FormWindow& owner) : window_(owner) {
 void FormCanvas::paintEvent(QPaintEvent* event) {
   if (!window_.form) return;
   QPainter painter(this);
-  for (const QRect& area : event->region()) paintSurface(painter, *window_.form, area);
+  paintSurface(painter, *window_.form, event->region());
 }
 
 void FormCanvas::resizeEvent(QResizeEvent* event) {

@@ -12,18 +12,19 @@
 #include "surface/qt/pointer.h"
 
 namespace surface::qt {
-void paintSurface(QPainter& painter, const DrawingSurface& surface, const QRect& area) {
+void paintSurface(QPainter& painter, const DrawingSurface& surface, const QRegion& part) {
   if (surface.blank()) {
-    painter.fillRect(area, toQColor(surface.BackColor));
+    for (const QRect& area : part) painter.fillRect(area, toQColor(surface.BackColor));
     return;
   }
   const auto bitmap = surface.bitmap();
-  if (area.isEmpty()) return;
+  if (part.isEmpty()) return;
   const QImage image = wrapped(*bitmap);
-  if (painter.device()->devicePixelRatioF() > 1)
-    drawSquares(painter, image, image.rect(), area);
-  else
-    painter.drawImage(area, image, area);
+  if (painter.device()->devicePixelRatioF() > 1) {
+    drawSquares(painter, image, image.rect(), part);
+  } else {
+    for (const QRect& area : part) painter.drawImage(area, image, area);
+  }
 }
 
 SurfaceWidget::SurfaceWidget(PictureBox& owner, QWidget& parent)
@@ -45,7 +46,7 @@ void SurfaceWidget::sync(Aspect aspect) {
 void SurfaceWidget::paintEvent(QPaintEvent* event) {
   if (!control) return;
   QPainter painter(this);
-  for (const QRect& area : event->region()) paintSurface(painter, *control, area);
+  paintSurface(painter, *control, event->region());
   if (control->Raised) drawClassicEdge(painter, rect(), control->Pressed);
   if (hasFocus()) paintFocus(painter);
 }

@@ -1,6 +1,7 @@
 // The widget of a picture box: shows its bitmap, and brings the pointer to it.
 #pragma once
 
+#include <QRegion>
 #include <QWidget>
 
 #include "surface/qt/peers.h"
@@ -42,6 +43,6 @@ class SurfaceWidgetPeer : public WidgetPeer<SurfaceWidget, SurfacePeer> {
 };
 
 /// Paints a surface's bitmap, or its bare colour as long as nothing was drawn.
-void paintSurface(QPainter& painter, const DrawingSurface& surface, const QRect& area);
+void paintSurface(QPainter& painter, const DrawingSurface& surface, const QRegion& part);
 
 }  // namespace surface::qt
