@@ -39,7 +39,7 @@ void frmFantasie4::Timer1_Timer() {
   if (buiten(worm.wormX, Picture1.Width) || buiten(worm.wormY, Picture1.Height)) {
     Timer2.Enabled = true;
     Timer1.Enabled = false;
-    Timer2_Timer();
+    keer(&frmFantasie4::Timer2_Timer);
   }
   worm.kruipHeen(Picture1, generator());
 }
@@ -48,9 +48,17 @@ void frmFantasie4::Timer2_Timer() {
   if (worm.wormX < 1 || worm.wormY < 1) {
     Timer2.Enabled = false;
     Timer1.Enabled = true;
-    Timer1_Timer();
+    keer(&frmFantasie4::Timer1_Timer);
   }
   worm.kruipTerug(Picture1, generator());
+}
+
+// A worm that has come to both ends at once, in the lower left corner, would turn without end.
+void frmFantasie4::keer(void (frmFantasie4::*tik)()) {
+  if (keert) return;
+  keert = true;
+  (this->*tik)();
+  keert = false;
 }
 
 void frmFantasie4::Timer3_Timer() {

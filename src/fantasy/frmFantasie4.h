@@ -44,8 +44,11 @@ class frmFantasie4 : public surface::Form {
   void Form_Load();
   void Timer1_Timer();
   void Timer2_Timer();
+  void keer(void (frmFantasie4::*tik)());
   void Timer3_Timer();
   void antwoord(const char* tekst, CommandButton& vorige, CommandButton& volgende);
   void nieuweWorm(CommandButton& knop, int wachttijd, double x, std::int16_t y);
   void cmdSluiten_Click();
+
+  bool keert = false;  ///< the tick of the other way is being run
 };

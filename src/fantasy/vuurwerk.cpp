@@ -93,7 +93,7 @@ void Vuurwerk::stijg(DrawingSurface& blad, Random& random, std::size_t i) {
   vonkSnelheid[i] = toInt16(vonkSnelheid[i] - Versnelling);
   if (vonkSnelheid[i] < 0) {
     vonkSnelheid[i] = 0;
-    vonkHoek[i] = toInt16(Int(random.Rnd() * valSpreiding * 2.0) + 270 - valSpreiding);
+    vonkHoek[i] = toInt16(Int(random.Rnd() * 2.0 * valSpreiding) + 270 - valSpreiding);
   }
   const float hoogte = blad.ScaleHeight() / 40;
   const double diepte = hoogte + 150 + static_cast<float>(snelheidSpreiding);
