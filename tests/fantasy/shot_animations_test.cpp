@@ -1,5 +1,6 @@
 // Fireworks, worms, stars and lightning, each held against what it means, said statement by
 // statement.
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <vector>
@@ -95,14 +96,19 @@ TEST(Fireworks, FlyAsTheyAreToldForHundredsOfTicksInBothStyles) {
     Vuurwerk vuurwerk;
     LiteralFireworks literal;
     for (int tick = 0; tick < 400; ++tick) {
-      if (tick % 10 == 0) {
-        vuurwerk.schiet(papers.ours, papers.ourRandom);
-        literal.launch(papers.literal, papers.literalRandom);
-      }
-      vuurwerk.vlieg(papers.ours, papers.ourRandom);
-      literal.fly(papers.literal, papers.literalRandom);
-      ASSERT_TRUE(papers.agree()) << "tick " << tick;
+      const bool launch = tick % 10 == 0;
+      ASSERT_TRUE(papers.agree(
+          [&](Form& blad, Random& random) {
+            if (launch) vuurwerk.schiet(blad, random);
+            vuurwerk.vlieg(blad, random);
+          },
+          [&](Form& blad, Random& random) {
+            if (launch) literal.launch(blad, random);
+            literal.fly(blad, random);
+          }))
+          << "tick " << tick;
     }
+    EXPECT_GT(papers.calls, 10'000u);
   }
 }
 
@@ -186,29 +192,43 @@ TEST(Worms, CrawlToAndFroAsTheyAreTold) {
   long x = 0, y = 0;
   for (int tick = 0; tick < 300; ++tick) {
     const bool forth = tick % 100 < 60;
-    auto& random = papers.literalRandom;
-    if (forth) {
-      worm.kruipHeen(papers.ours, papers.ourRandom);
-      x = std::lrint(random.Rnd() * 200.0 + static_cast<double>(x));
-      y = std::lrint(random.Rnd() * 200.0 + static_cast<double>(y));
-    } else {
-      worm.kruipTerug(papers.ours, papers.ourRandom);
-      x = std::lrint(static_cast<double>(x) - random.Rnd() * 300.0);
-      y = std::lrint(static_cast<double>(y) - random.Rnd() * 200.0);
-    }
-    const int a = even16(random.Rnd() * 255.0);
-    const int b = even16(random.Rnd() * 255.0);
-    const int c = even16(random.Rnd() * 255.0);
-    papers.literal.FillColor = RGB(a, b, c);
-    // Centre and radius in whole pixels: 27 on the way there, 33 on the way back.
-    raster::ellipse(papers.literal.target(), {}, papers.literal.brush(),
-                    static_cast<int>(std::lrint(static_cast<double>(x) / 15)),
-                    static_cast<int>(std::lrint(static_cast<double>(y) / 15)), forth ? 27 : 33,
-                    forth ? 27 : 33);
+    const auto literal = [&](Form& blad, Random& random) {
+      const double goX = random.Rnd() * (forth ? 200.0 : -300.0);
+      const double goY = random.Rnd() * (forth ? 200.0 : -200.0);
+      x = std::lrint(static_cast<double>(x) + goX);
+      y = std::lrint(static_cast<double>(y) + goY);
+      const int a = even16(random.Rnd() * 255.0);
+      const int b = even16(random.Rnd() * 255.0);
+      const int c = even16(random.Rnd() * 255.0);
+      blad.FillColor = RGB(a, b, c);
+      // Centre and radius in whole pixels: 27 on the way there, 33 on the way back.
+      raster::ellipse(blad.target(), {}, blad.brush(),
+                      static_cast<int>(std::lrint(static_cast<double>(x) / 15)),
+                      static_cast<int>(std::lrint(static_cast<double>(y) / 15)), forth ? 27 : 33,
+                      forth ? 27 : 33);
+    };
+    const auto ours = [&](Form& blad, Random& random) {
+      forth ? worm.kruipHeen(blad, random) : worm.kruipTerug(blad, random);
+    };
+    ASSERT_TRUE(papers.agree(ours, literal)) << "tick " << tick;
     ASSERT_EQ(worm.wormX, x);
     ASSERT_EQ(worm.wormY, y);
-    ASSERT_TRUE(papers.agree()) << "tick " << tick;
   }
+  EXPECT_EQ(papers.calls, 300u);
+}
+
+TEST(Worms, ADiscAtTheEdgeLiesHalfOffThePicture) {
+  Form picture(paper(100, 100, 0xE0E0E0));
+  picture.FillStyle = 0;
+  Random random;
+  random.fix(1);
+  Worm worm;
+  worm.wormX = 1500;
+  worm.wormY = 750;
+  worm.kruipHeen(picture, random);
+  EXPECT_GT(worm.wormX, 1500) << "nothing keeps the head inside";
+  EXPECT_GT(painted(picture, 0xE0E0E0), 0);
+  EXPECT_LT(painted(picture, 0xE0E0E0), 3 * 27 * 27 / 2) << "less than half of the disc";
 }
 
 namespace {
@@ -255,10 +275,15 @@ TEST(Stars, DriftAsTheyAreToldInBothModes) {
   LiteralStars literal(papers.literal, papers.literalRandom);
   for (int tick = 0; tick < 600; ++tick) {
     const bool colourful = tick / 50 % 2 == 1;
-    sterren.drijf(papers.ours, papers.ourRandom, colourful ? Sterren::Kleurrijk : Sterren::Gewoon);
-    literal.tick(papers.literal, papers.literalRandom, colourful);
-    ASSERT_TRUE(papers.agree()) << "tick " << tick;
+    ASSERT_TRUE(papers.agree(
+        [&](Form& blad, Random& random) {
+          sterren.drijf(blad, random, colourful ? Sterren::Kleurrijk : Sterren::Gewoon);
+        },
+        [&](Form& blad, Random& random) { literal.tick(blad, random, colourful); },
+        fantasy::withoutClearing))
+        << "tick " << tick;
   }
+  EXPECT_EQ(papers.calls, 600u * 41 * 2);
 }
 
 TEST(Stars, WrapOnlyBeyondTheRightEdgeNotAtIt) {
@@ -293,6 +318,12 @@ TEST(Stars, TheStarAfterTheSwitchIsTheFirstInTheNewWidthAndColoursPassOn) {
   EXPECT_EQ(sky.Point({100, 0}), 0x123456) << "the colour that the form had";
   EXPECT_EQ(sky.Point({99, 0}), Black) << "still one pixel wide";
   EXPECT_EQ(sky.DrawWidth, 2);
+  const auto stars = script::traceOf([&] { sterren.drijf(sky, random, Sterren::Gewoon); });
+  // Of each star its old place first, then the new one.
+  const auto dots = fantasy::withoutClearing(stars);
+  ASSERT_EQ(dots.size(), 82u);
+  EXPECT_EQ(dots[1].width, 2) << "the first plain star is as wide as the last coloured one";
+  EXPECT_EQ(dots[3].width, 1);
 }
 
 TEST(Stars, AllHaveNumbersOfTheirOwnAlthoughTheClockStands) {
@@ -363,17 +394,19 @@ TEST(Lightning, StrikesAndFadesAsItIsTold) {
   for (int bolt = 0; bolt < 100; ++bolt) {
     bliksem.bliksemSoort = static_cast<std::int16_t>(bolt % 5);
     literal.kind = bolt % 5;
-    bliksem.MakeFX(papers.ours, papers.ourRandom, {papers.ours.Width, papers.ours.Height});
-    literal.strike(papers.literal, papers.literalRandom);
-    ASSERT_TRUE(papers.agree()) << "bolt " << bolt;
-    EXPECT_FALSE(bliksem.dooft(papers.ours));
-    literal.fade(papers.literal);
-    ASSERT_TRUE(papers.agree()) << "thin bolt " << bolt;
-    EXPECT_TRUE(bliksem.dooft(papers.ours));
-    literal.fade(papers.literal);
-    ASSERT_TRUE(papers.agree()) << "gone bolt " << bolt;
+    ASSERT_TRUE(papers.agree(
+        [&](Form& blad, Random& random) {
+          bliksem.MakeFX(blad, random, {blad.Width, blad.Height});
+        },
+        [&](Form& blad, Random& random) { literal.strike(blad, random); }))
+        << "bolt " << bolt;
+    for (const bool gone : {false, true})
+      ASSERT_TRUE(papers.agree([&](Form& blad, Random&) { EXPECT_EQ(bliksem.dooft(blad), gone); },
+                               [&](Form& blad, Random&) { literal.fade(blad); }))
+          << "bolt " << bolt << (gone ? " gone" : " thin");
     EXPECT_EQ(painted(papers.ours, Black), 0);
   }
+  EXPECT_GT(papers.calls, 100u * 3 * 480 * 5);
 }
 
 TEST(Lightning, AKindBeyondTheFiveDrawsNothing) {
@@ -419,4 +452,36 @@ TEST(Lightning, OnAWindowOfMoreRowsThanSixteenBitsCountTheScreenLives) {
     EXPECT_FALSE(bliksem.dooft(sky));
     EXPECT_TRUE(bliksem.dooft(sky)) << "and the next one strikes";
   }
+}
+
+TEST(Lightning, TheRowBelowABoltIsWipedAtTheLeftEdgeOnly) {
+  Form sky(paper(640, 480, White));
+  Random random;
+  random.fix(2);
+  Bliksem bliksem;
+  bliksem.MakeFX(sky, random, {9600, 100 * 15});
+  while (!bliksem.dooft(sky)) EXPECT_EQ(bliksem.PosL.size(), 100u);
+  for (int x = 0; x < 640; ++x)
+    EXPECT_EQ(sky.Point({static_cast<float>(x) * 15, 101 * 15}), x < 3 ? Black : White) << x;
+}
+
+TEST(Lightning, ABoltThatWandersPastTheEdgesComesBackUncorrected) {
+  Form sky(paper(2, 480, Black));
+  Random random;
+  random.fix(5);
+  Bliksem bliksem;
+  bliksem.MakeFX(sky, random, {30, 7200});
+  const auto [left, right] = std::minmax_element(bliksem.PosL.begin(), bliksem.PosL.end());
+  EXPECT_TRUE(*left < -30 || *right > 60);
+  for (std::size_t row = 1; row < bliksem.PosL.size(); ++row)
+    EXPECT_LE(std::abs(bliksem.PosL[row] - bliksem.PosL[row - 1]), 25) << row;
+}
+
+TEST(Lightning, ThePlacesOfABoltReadBackFromTextExactly) {
+  Form sky(paper(640, 480, Black));
+  Random random;
+  random.fix(6);
+  Bliksem bliksem;
+  bliksem.MakeFX(sky, random, {sky.Width, sky.Height});
+  for (const float place : bliksem.PosL) EXPECT_EQ(Val(" " + toText(place)), place);
 }

@@ -4,6 +4,7 @@
 #include "fantasy/frmFantasie6.h"
 #include "studio/modTekenen.h"
 #include "support/script.h"
+#include "support/trace.h"
 #include "surface/host.h"
 
 using namespace surface;
@@ -109,6 +110,48 @@ TEST_F(WormsScreen, AtAnEdgeTheWormTurnsWithOneDiscOfEachKind) {
   EXPECT_TRUE(screen.Timer1.Enabled && !screen.Timer2.Enabled);
 }
 
+TEST_F(WormsScreen, ThePictureCountsWithItsOuterSizeAndKeepsItWhateverTheWindows) {
+  dispatch([&] { screen.windowResized(1920, 1080); });
+  EXPECT_EQ(screen.Picture1.Width, 11895);
+  EXPECT_EQ(screen.Picture1.Height, 8295);
+  for (const int beyond : {0, 1}) {
+    screen.worm.wormX = 4000;
+    screen.worm.wormY = 8294 + beyond;
+    screen.Timer1.Enabled = true;
+    screen.Timer2.Enabled = false;
+    dispatch([&] { screen.Timer1.Timer(); });
+    EXPECT_EQ(screen.Timer2.Enabled, beyond == 1);
+  }
+}
+
+TEST_F(WormsScreen, InTheCornerThatIsBothEndsAtOnceTheWormTurnsAndCrawlsOn) {
+  screen.worm.wormX = 0;
+  screen.worm.wormY = 8295;
+  EXPECT_EQ(script::traceOf([&] { dispatch([&] { screen.Timer1.Timer(); }); }).size(), 2u);
+  EXPECT_TRUE(screen.Timer1.Enabled != screen.Timer2.Enabled);
+  advance(10'000);
+  EXPECT_TRUE(crawls());
+}
+
+TEST_F(WormsScreen, AllFiveWormsStayNearThePicture) {
+  // To and fro they come ever nearer to the lower left corner, and one in many gets there.
+  for (unsigned seed = 1; seed <= 20; ++seed) {
+    seedRandom(seed);
+    auto& worms = showNew<frmFantasie4>();
+    advance(20'000);
+    for (CommandButton* next :
+         {&worms.cmdWorm2, &worms.cmdWorm3, &worms.cmdWorm4, &worms.cmdWorm5}) {
+      dispatch([&] { next->Click(); });
+      advance(worms.Timer3.Interval);
+      EXPECT_GT(worms.worm.wormX, -3000);
+      EXPECT_GT(worms.worm.wormY, -1000);
+      EXPECT_LT(worms.worm.wormX, 11895 + 1000);
+      EXPECT_LT(worms.worm.wormY, 8295 + 1000);
+    }
+    dispatch([&] { Unload(worms); });
+  }
+}
+
 TEST_F(WormsScreen, OldWormsStayOnThePicture) {
   advance(20'000);
   const auto before = screen.Picture1.Image();
@@ -160,6 +203,22 @@ TEST_F(WheelScreen, StartBecomesStopAndBack) {
   EXPECT_EQ(screen.cmdStart.BackColor, 0x00FF00);
   EXPECT_FALSE(screen.cmdPauze.Enabled);
   EXPECT_FALSE(screen.Timer1.Enabled);
+}
+
+TEST_F(WheelScreen, AnUntouchedSliderMeansATenthOfASecondWhichItCannotGiveItself) {
+  click(screen.cmdStart);
+  EXPECT_EQ(screen.Timer1.Interval, 100);
+  for (int value = 1; value <= 5; ++value) {
+    screen.Slider1.scrolled(value);
+    EXPECT_NE(screen.txtSnelheid.Text, "100");
+  }
+}
+
+TEST_F(WheelScreen, PauzeDoesNothingWhileTheWheelStandsStill) {
+  dispatch([&] { screen.cmdPauze.Click(); });
+  EXPECT_EQ(screen.wielToestand, frmFantasie6::Gestopt);
+  EXPECT_EQ(screen.cmdPauze.Caption, "Pauze");
+  EXPECT_FALSE(screen.Timer1.Enabled && screen.Timer1.Interval > 0);
 }
 
 TEST_F(WheelScreen, PauzeBecomesVerderAndAStopWhilePausedNamesItPause) {
