@@ -4,6 +4,7 @@ import unittest
 
 import cases
 import driver
+import kraspret
 
 TITLE = "KRAS PRET  -  MET ENIGE FANTASIE  KIJKEN  -  "
 # The button of the menu, the end of the window's title, whether a start must be pressed.
@@ -17,17 +18,31 @@ SCREENS = (
     ("Bliksemschicht", "BLIKSEMSCHICHTEN", False),
 )
 FACE = (0xC0, 0xC0, 0xC0)  # of the button that leaves
-WATCHED = 2.0  # seconds between two looks
+WATCHED = 1.0  # seconds between two looks
 
 
 class Fantasy(cases.Case):
+    """Each test goes from the main menu to the fantasy menu and back; the program stays for the next one, unless this one spoils it."""
+
     size = (1280, 800)
+    program = None
 
     def setUp(self):
-        self.program = self.start()
-        self.program.give_name("Jan")
+        cls = type(self)
+        if cls.program is None:
+            cls.program = kraspret.start(self.desktop)
+            cls.program.wait_menu()
+            cls.program.give_name("Jan")
         self.program.control("Fantasie Kijken").click()
         self.program.control("Herfstwindje")
+
+    def tearDown(self):
+        try:
+            self.program.control("Sluiten").click()
+            self.program.wait_menu()
+        except driver.NotSeen:  # still on a screen, or worse: the next test starts afresh
+            driver.stop(self.program.process)
+            type(self).program = None
 
     def picture(self, window):
         left, top, width, height = self.desktop.geometry(window)
@@ -42,8 +57,8 @@ class Fantasy(cases.Case):
         self.program.control(name)
         return min((c for c in self.program.controls() if c.name == name), key=lambda c: c.rectangle[1])
 
-    def back(self, name, title):
-        self.leaving(name).click()
+    def back(self, button, title):
+        button.click()
         self.program.wait_gone(TITLE + title)
         self.program.control("Herfstwindje")
 
@@ -56,12 +71,13 @@ class Fantasy(cases.Case):
                 before = self.picture(window)
                 time.sleep(WATCHED)
                 driver.until(lambda: self.picture(window).rows != before.rows, f"movement of {title}")
-                left, top, width, height = self.leaving("Sluiten").rectangle
+                leaving = self.leaving("Sluiten")
+                left, top, width, height = leaving.rectangle
                 face = self.desktop.screen().crop(left, top, width, height)
                 self.assertEqual(face.at(6, face.height // 2), FACE, "the button that leaves is not to be seen")
                 dark = sum(1 for _, _, colour in face.pixels() if colour == (0, 0, 0))
                 self.assertGreater(dark, 100, "its text is not to be seen")
-                self.back("Sluiten", title)
+                self.back(leaving, title)
 
     def test_the_worms_let_the_child_go_after_twenty_seconds(self):
         window = self.open("Regenwormen", "WRIEMELENDE REGENWORMEN")
@@ -70,16 +86,17 @@ class Fantasy(cases.Case):
         self.assertIsNone(self.program.find("Stoppen"))
         self.program.control("Stoppen", seconds=40)
         self.program.control("Worm 2")
-        self.back("Stoppen", "WRIEMELENDE REGENWORMEN")
+        self.back(self.leaving("Stoppen"), "WRIEMELENDE REGENWORMEN")
 
     def test_back_on_the_main_menu_only_that_one_shows(self):
         for button, title, _ in (SCREENS[2], SCREENS[6]):
             self.open(button, title)
-            self.back("Sluiten", title)
+            self.back(self.leaving("Sluiten"), title)
         self.program.control("Sluiten").click()
         self.program.wait_menu()
         driver.until(lambda: self.program.find("Herfstwindje") is None, "end of all fantasy menus")
         self.assertEqual(self.program.name_field().text, "Jan")
+        self.program.control("Fantasie Kijken").click()
 
 
 if __name__ == "__main__":
