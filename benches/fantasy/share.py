@@ -29,7 +29,7 @@ class Scene:
         self.faster, self.rests = faster, rests  # what makes it as fast as it can; whether it stands still until then
 
 
-TO_THE_END = "End"  # of the slider that was pressed last
+TO_THE_START, TO_THE_END = "Home", "End"  # of the slider that was pressed last
 SCENES = (
     Scene("wind", (8040, 1680), "HERFSTWIND", (240, 1920), DRAWS, ((240, 600), TO_THE_END, (240, 1200)), True),
     Scene("kaleidoscope", (8040, 2400), "LENTEKRIEBELS", (240, 3480)),
@@ -37,7 +37,8 @@ SCENES = (
     Scene("flower", (8040, 3840), "ZOMERVREUGDE", (240, 2040), DRAWS, ((240, 600),)),
     Scene("fireworks", (8040, 4560), "FEESTELIJK VUURWERK", (240, 1680), MOVES, ((240, 960),)),
     Scene("worms", (8040, 5280), "WRIEMELENDE REGENWORMEN", (8040, 2040)),
-    Scene("wheel", (8040, 6000), "WINDMOLENTJE ( of is het een FIETSWIEL ? )", (240, 5280), MOVES, ((240, 4080), (240, 480)), True),
+    Scene("wheel", (8040, 6000), "WINDMOLENTJE ( of is het een FIETSWIEL ? )", (240, 5280), MOVES,
+          ((240, 4080), TO_THE_START, (240, 480)), True),
     Scene("lightning", (8040, 6720), "BLIKSEMSCHICHTEN", (120, 120)),
 )
 
@@ -93,7 +94,7 @@ class Child:
 
     def hurry(self, scene):
         for step in scene.faster:
-            self.screen.key(step) if step == TO_THE_END else self.press(step)
+            self.screen.key(step) if step in (TO_THE_START, TO_THE_END) else self.press(step)
         self.screen.move(SIZE[0] // 2, SIZE[1] - 5)
 
     def leave(self, scene):
