@@ -5,9 +5,9 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstddef>
 #include <cstdint>
-#include <type_traits>
-#include <utility>
+#include <vector>
 
 #include "effects/wide.h"
 #include "surface/numbers.h"
@@ -37,28 +37,24 @@ Offset exactOffset(int u, int v, float angle) {
 // Adding it to a float leaves the nearest whole number (ties to even) in the low bits.
 constexpr float Rounder = 0x1.8p23f;
 inline float rounded(float value) { return (value + Rounder) - Rounder; }
+inline float missed(float value, float whole) { return std::abs(value - whole); }
 
-// True where an error of a few units in the last place may round to another whole number.
-inline bool isUnsure(float value, float whole, float error) {
-  return std::abs(value - whole) > 0.5f - error;
-}
+// Up to here every radius is below 2048: the square root of a whole number then stays far enough
+// from all halves to be rounded rightly in single precision, and places in memory are exact.
+constexpr int QuickLimit = 1447;
 
-// From here on single precision does not hold the squares any more.
-constexpr int QuickLimit = 2800;
-
-// The target is painted in blocks, so that the source points of a block lie close together,
-// whatever the angle.
+// The target is painted in blocks of columns, so that the source points of neighbouring rows lie
+// close together, whatever the angle.
 constexpr int BlockSide = 64;
 
-// Source points for target points in a row, from the source's middle: where they lie, and how far
-// on in its memory.
+// Source points for target points in a row, from the source's middle: how far on in its memory,
+// and their rows.
 struct Points {
-  std::array<std::int32_t, BlockSide> X, Y, distance;
+  std::array<std::int32_t, BlockSide> distance, Y;
 
   void set(std::size_t at, int x, int y, int width) {
-    X[at] = x;
-    Y[at] = y;
     distance[at] = y * width + x;
+    Y[at] = y;
   }
 };
 
@@ -72,67 +68,101 @@ struct Piece {
 
 // Fills a piece in single precision; true if some of its places are marked as unsure.
 WIDE_VERSIONS
-bool findQuickly(Piece& piece, float cosine, float sine, int width) {
-  const auto f = static_cast<float>(piece.fixed);
+bool findQuickly(Piece& piece, float cosine, float sine, int sourceWidth) {
+  const auto f = static_cast<float>(piece.fixed), width = static_cast<float>(sourceWidth);
+  const float fc = f * cosine, fs = f * sine;
+  const float ff = std::max(f * f, 1e-30f);  // even the middle has a distance to divide by
+  const auto furthest = static_cast<float>(piece.first + piece.count);
+  // Ten roundings at most, each of 2^-24 of the distance.
+  const float sure = 0.5f - std::sqrt(furthest * furthest + ff) * 10 * 0x1p-24f;
   std::int32_t any = 0;
   for (int i = 0; i < piece.count; ++i) {
     const auto m = static_cast<float>(piece.first + i);
-    // The middle itself has no direction; it is never asked for.
-    const float distance = std::max(std::sqrt(m * m + f * f), 0.5f);
-    const float r = rounded(distance);
-    const float scale = r / distance;
-    const float p = (m * cosine - f * sine) * scale, q = (m * sine + f * cosine) * scale;
-    const float p2 = (f * cosine - m * sine) * scale, q2 = (f * sine + m * cosine) * scale;
+    const float distance = std::sqrt(m * m + ff);
+    const float scale = rounded(distance) / distance;
+    const float mc = m * cosine, ms = m * sine;
+    const float p = (mc - fs) * scale, q = (ms + fc) * scale;
+    const float p2 = (fc - ms) * scale, q2 = (fs + mc) * scale;
     const float P = rounded(p), Q = rounded(q), P2 = rounded(p2), Q2 = rounded(q2);
-    // Ten roundings at most, each of 2^-24 of the distance.
-    const float error = distance * 0x1p-20f;
-    const std::int32_t unsure = isUnsure(distance, r, error) | isUnsure(p, P, error) |
-                                isUnsure(q, Q, error) | isUnsure(p2, P2, error) |
-                                isUnsure(q2, Q2, error);
-    const auto x = static_cast<std::int32_t>(P), y = static_cast<std::int32_t>(Q);
-    const auto x2 = static_cast<std::int32_t>(Q2), y2 = -static_cast<std::int32_t>(P2);
-    piece.straight.X[i] = x;
-    piece.straight.Y[i] = y;
-    piece.straight.distance[i] = y * width + x;
-    piece.swapped.X[i] = x2;
-    piece.swapped.Y[i] = y2;
-    piece.swapped.distance[i] = y2 * width + x2;
+    const float worst =
+        std::max(std::max(missed(p, P), missed(q, Q)), std::max(missed(p2, P2), missed(q2, Q2)));
+    const std::int32_t unsure = worst > sure;
+    // Whole numbers below 2^24 within the limit.
+    piece.straight.distance[i] = static_cast<std::int32_t>(Q * width + P);
+    piece.straight.Y[i] = static_cast<std::int32_t>(Q);
+    piece.swapped.distance[i] = static_cast<std::int32_t>(Q2 - P2 * width);
+    piece.swapped.Y[i] = -static_cast<std::int32_t>(P2);
     piece.unsure[i] = unsure;
     any |= unsure;
   }
   return any != 0;
 }
 
+// Whole numbers from first up to, but without, last.
+struct Span {
+  int first, last;
+};
+
+// The numbers i with low <= slope * i + offset <= high, for all that are told.
+class Between {
+ public:
+  void narrow(double slope, double offset, double low, double high) {
+    // The least of slopes is too little to move any of our points.
+    const bool level = std::abs(slope) < 1e-6;
+    if (low > high || (level && (offset < low || offset > high))) last_ = first_ - 1;
+    if (level || last_ < first_) return;
+    const double a = (low - offset) / slope, b = (high - offset) / slope;
+    first_ = std::max(first_, std::min(a, b));
+    last_ = std::min(last_, std::max(a, b));
+  }
+
+  /// Those from `lowest` to below `end`.
+  Span whole(int lowest, int end) const {
+    const auto bounded = [&](double value, int least) {
+      return static_cast<int>(
+          std::clamp(value, double(least), std::max(double(least), double(end))));
+    };
+    const int first = bounded(std::ceil(first_), lowest);
+    return {first, bounded(std::floor(last_) + 1, first)};
+  }
+
+ private:
+  double first_ = -1e9, last_ = 1e9;
+};
+
 class Rotation {
  public:
   Rotation(const Bitmap& source, Bitmap& target, float angle)
       : source_(source),
         target_(target),
+        middle_(source.row(half(source.height())) + half(source.width())),
         angle_(angle),
-        cosine_(static_cast<float>(std::cos(double{angle}))),
-        sine_(static_cast<float>(std::sin(double{angle}))),
+        cosine_(std::cos(double{angle})),
+        sine_(std::sin(double{angle})),
         sx_(half(source.width())),
         sy_(half(source.height())),
         tx_(half(target.width())),
         ty_(half(target.height())),
-        N_(nearestInt(std::max(target.width(), target.height()) / 2.0 - 1)) {}
+        N_(nearestInt(std::max(target.width(), target.height()) / 2.0 - 1)),
+        quick_(N_ <= QuickLimit && source.width() <= 2 * QuickLimit) {}
 
   void run() {
-    if (source_.bounds().empty() || target_.bounds().empty()) return;
     axis();
-    for (int top = 0; top <= N_; top += BlockSide)
-      for (int left = 0; left <= N_; left += BlockSide) paintBlock(left, top);
+    findReaches();
+    for (int left = 0; left <= N_; left += BlockSide) paintBlock(left);
   }
 
  private:
-  // Whether the source points of a block all lie on the source, or none, or some.
-  enum class Lies { Inside, Outside, Across };
-  struct Block {
-    Lies straight[2], swapped[2];  // turned by no half turn, and by one
+  // Where a row and the one opposite to it, turned by half a turn, find points of the source: both
+  // for sure, and each perhaps.
+  struct Reach {
+    Span both, plus, minus;
   };
 
   static int half(int size) { return nearestInt(size / 2.0); }
   bool isVisible(int y) const { return y >= 0 && y < target_.height(); }
+  // Beyond it both of two opposite rows lie outside the target.
+  int lastRow() const { return std::min(N_, ty_); }
 
   void copy(int fromX, int fromY, int toX, int toY) {
     if (source_.contains(sx_ + fromX, sy_ + fromY) && target_.contains(tx_ + toX, ty_ + toY))
@@ -141,8 +171,10 @@ class Rotation {
 
   // The points with u = 0 come first: on the axes the later ones cover them.
   void axis() {
+    const double turned = double{static_cast<float>(HalfPi)} + double{angle_};
+    const double cosine = std::cos(turned), sine = std::sin(turned);
     for (int v = 0; v <= N_; ++v) {
-      const auto [P, Q] = exactOffset(0, v, angle_);
+      const int P = nearestInt(v * cosine), Q = nearestInt(v * sine);
       copy(P, Q, 0, v);
       copy(-P, -Q, 0, -v);
       copy(Q, -P, v, 0);
@@ -150,115 +182,129 @@ class Rotation {
     }
   }
 
-  // Where the rectangle of the points (x, y) = (a * cos - b * sin, a * sin + b * cos) lies, for a
-  // and b between two corners, and the one turned by half a turn. Rounding moves a point by less
-  // than two pixels.
-  void classify(Lies (&lies)[2], const float (&a)[2], const float (&b)[2]) const {
-    constexpr float Slack = 2;
-    float left = 1e9f, top = 1e9f, right = -1e9f, bottom = -1e9f;
-    for (const float ca : a)
-      for (const float cb : b) {
-        const float x = ca * cosine_ - cb * sine_, y = ca * sine_ + cb * cosine_;
-        left = std::min(left, x - Slack);
-        right = std::max(right, x + Slack);
-        top = std::min(top, y - Slack);
-        bottom = std::max(bottom, y + Slack);
-      }
-    const auto W = static_cast<float>(source_.width()), H = static_cast<float>(source_.height());
-    for (Lies& lie : lies) {
-      const auto x = static_cast<float>(sx_), y = static_cast<float>(sy_);
-      if (x + left >= 0 && x + right < W && y + top >= 0 && y + bottom < H)
-        lie = Lies::Inside;
-      else if (x + right < 0 || x + left >= W || y + bottom < 0 || y + top >= H)
-        lie = Lies::Outside;
-      else
-        lie = Lies::Across;
-      left = std::exchange(right, -left) * -1;
-      top = std::exchange(bottom, -top) * -1;
+  // The places i at which the source points lie within the source, give or take some slack.
+  Span places(int direction, int row, double slack, int lowest, int end) const {
+    Between between;
+    between.narrow(direction * cosine_, -direction * row * sine_, -sx_ - slack,
+                   source_.width() - 1 - sx_ + slack);
+    between.narrow(direction * sine_, direction * row * cosine_, -sy_ - slack,
+                   source_.height() - 1 - sy_ + slack);
+    return between.whole(lowest, end);
+  }
+
+  // Rounding the radius moves a point by up to half a pixel, and rounding the point as much again.
+  Reach reach(int row, int plusRow, int minusRow, int lowest) const {
+    constexpr double Slack = 1.02;
+    const int right = isVisible(plusRow) ? std::min(N_ + 1, target_.width() - tx_) : 0;
+    const int left = isVisible(minusRow) ? std::min(N_, tx_) + 1 : 0;
+    const Span plus = places(1, row, -Slack, lowest, right),
+               minus = places(-1, row, -Slack, lowest, left);
+    const int first = std::max(plus.first, minus.first);
+    return {{first, std::max(first, std::min(plus.last, minus.last))},
+            places(1, row, Slack, lowest, right),
+            places(-1, row, Slack, lowest, left)};
+  }
+
+  void findReaches() {
+    for (int row = 0; row <= lastRow(); ++row) {
+      straight_.push_back(reach(row, ty_ + row, ty_ - row, 1));
+      swapped_.push_back(reach(-row, ty_ - row, ty_ + row, 0));
     }
   }
 
   // The points of a block with u from 1 on. But for the axes the four quarters lie side by side, so
   // each is painted along its rows.
-  void paintBlock(int left, int top) {
-    const int right = std::min(left + BlockSide - 1, N_),
-              bottom = std::min(top + BlockSide - 1, N_);
-    const float i[] = {static_cast<float>(left), static_cast<float>(right)};
-    const float f[] = {static_cast<float>(top), static_cast<float>(bottom)};
-    const float minusF[] = {-f[0], -f[1]};
-    Block block;
-    classify(block.straight, i, f);
-    classify(block.swapped, i, minusF);
+  void paintBlock(int left) {
     Piece piece;
     piece.first = left;
-    piece.count = right - left + 1;
-    for (int fixed = top; fixed <= bottom; ++fixed) {
-      if (!isVisible(ty_ + fixed) && !isVisible(ty_ - fixed)) break;
-      piece.fixed = fixed;
+    piece.count = std::min(BlockSide, N_ + 1 - left);
+    for (int row = 0; row <= lastRow(); ++row) {
+      const auto at = static_cast<std::size_t>(row);
+      piece.fixed = row;
       findPoints(piece);
-      paint(piece, piece.straight, block.straight[0], ty_ + fixed, 1,
-            std::integral_constant<int, 1>{});
-      paint(piece, piece.straight, block.straight[1], ty_ - fixed, 1,
-            std::integral_constant<int, -1>{});
-      if (fixed == 0) continue;
-      paint(piece, piece.swapped, block.swapped[0], ty_ - fixed, 0,
-            std::integral_constant<int, 1>{});
-      paint(piece, piece.swapped, block.swapped[1], ty_ + fixed, 0,
-            std::integral_constant<int, -1>{});
+      paint(piece, piece.straight, straight_[at], ty_ + row, ty_ - row);
+      if (row > 0) paint(piece, piece.swapped, swapped_[at], ty_ - row, ty_ + row);
     }
   }
 
+  // In double precision only the rounding of the point's own direction, to 2^-24, is left out.
+  Offset offset(int u, int v) const {
+    const double distance = std::sqrt(double(u) * u + double(v) * v);
+    const double scale = nearestInt(distance) / distance;
+    const double p = (u * cosine_ - v * sine_) * scale, q = (u * sine_ + v * cosine_) * scale;
+    const int P = nearestInt(p), Q = nearestInt(q);
+    const double sure = 0.5 - distance * 1e-7;
+    if (std::abs(p - P) < sure && std::abs(q - Q) < sure) return {P, Q};
+    return exactOffset(u, v, angle_);
+  }
+
   void findPoints(Piece& piece) const {
-    bool unsure = true;
-    if (N_ <= QuickLimit)
-      unsure = findQuickly(piece, cosine_, sine_, source_.width());
-    else
+    if (!quick_)
       piece.unsure.fill(1);
-    if (!unsure) return;
+    else if (!findQuickly(piece, static_cast<float>(cosine_), static_cast<float>(sine_),
+                          source_.width()))
+      return;
     for (int i = 0; i < piece.count; ++i) {
       const auto at = static_cast<std::size_t>(i);
-      if (piece.unsure[at] == 0) continue;
       const int moving = piece.first + i;
-      const Offset straight = exactOffset(moving, piece.fixed, angle_);
-      const Offset swapped = exactOffset(piece.fixed, moving, angle_);
+      if (piece.unsure[at] == 0 || (moving == 0 && piece.fixed == 0)) continue;
+      const Offset straight = offset(moving, piece.fixed), swapped = offset(piece.fixed, moving);
       piece.straight.set(at, straight.P, straight.Q, source_.width());
       piece.swapped.set(at, swapped.Q, -swapped.P, source_.width());
     }
   }
 
-  // Paints the columns tx + direction * i of a row, i from `lowest` on; a direction of -1 means
-  // half a turn, for target and source alike.
-  template <int direction>
-  void paint(const Piece& piece, const Points& points, Lies lies, int row, int lowest,
-             std::integral_constant<int, direction>) {
-    if (lies == Lies::Outside || !isVisible(row)) return;
-    const int visible = direction > 0 ? target_.width() - tx_ : tx_ + 1;
-    const int last = std::min(piece.first + piece.count, visible) - piece.first;
-    const int first = std::max(piece.first, lowest) - piece.first;
-    Pixel* const to = target_.row(row) + tx_ + direction * piece.first;
-    const Pixel* const middle = source_.row(sy_) + sx_;
-    if (lies == Lies::Inside) {
-      for (int i = first; i < last; ++i) to[direction * i] = middle[direction * points.distance[i]];
-      return;
+  // Paints the columns tx + i of a row, and the columns tx - i of the opposite one.
+  void paint(const Piece& piece, const Points& points, const Reach& reach, int plusRow,
+             int minusRow) {
+    const int begin = piece.first, end = piece.first + piece.count;
+    const int first = std::clamp(reach.both.first, begin, end),
+              last = std::clamp(reach.both.last, first, end);
+    if (first < last) {
+      Pixel* const plus = target_.row(plusRow) + tx_ + begin;
+      Pixel* const minus = target_.row(minusRow) + tx_ - begin;
+#pragma GCC unroll 4
+      for (std::ptrdiff_t i = first - begin; i < last - begin; ++i) {
+        const std::ptrdiff_t distance = points.distance[static_cast<std::size_t>(i)];
+        plus[i] = middle_[distance];
+        minus[-i] = middle_[-distance];
+      }
     }
-    const auto W = static_cast<unsigned>(source_.width()),
-               H = static_cast<unsigned>(source_.height());
+    for (const Span rest : {Span{begin, first}, Span{last, end}}) {
+      paintWithin<1>(piece, points, rest, reach.plus, plusRow);
+      paintWithin<-1>(piece, points, rest, reach.minus, minusRow);
+    }
+  }
+
+  // The places of a row that belong to both spans, each only if its source point is there. A
+  // direction of -1 means half a turn, for target and source alike.
+  template <int direction>
+  void paintWithin(const Piece& piece, const Points& points, Span a, Span b, int row) {
+    const int first = std::max(a.first, b.first), last = std::min(a.last, b.last);
+    if (first >= last) return;
+    Pixel* const to = target_.row(row) + tx_;
     for (int i = first; i < last; ++i) {
-      const auto x = static_cast<unsigned>(sx_ + direction * points.X[i]);
-      const auto y = static_cast<unsigned>(sy_ + direction * points.Y[i]);
-      if (x < W && y < H) to[direction * i] = middle[direction * points.distance[i]];
+      const auto at = static_cast<std::size_t>(i - piece.first);
+      const int Y = points.Y[at], X = points.distance[at] - Y * source_.width();
+      if (source_.contains(sx_ + direction * X, sy_ + direction * Y))
+        to[direction * i] = middle_[direction * points.distance[at]];
     }
   }
 
   const Bitmap& source_;
   Bitmap& target_;
-  const float angle_, cosine_, sine_;
+  const Pixel* const middle_;
+  const float angle_;
+  const double cosine_, sine_;
   const int sx_, sy_, tx_, ty_, N_;
+  const bool quick_;
+  std::vector<Reach> straight_, swapped_;  // for each row
 };
 
 }  // namespace
 
 void rotateInto(const Bitmap& source, Bitmap& target, float angle) {
+  if (source.bounds().empty() || target.bounds().empty()) return;
   Rotation(source, target, angle).run();
 }
 

@@ -13,6 +13,7 @@ enum class Keeps { First, Last };
 
 /// The source pixel for target pixel i = 0..to-1 when `from` pixels become `to`.
 int sample(int i, Wide from, Wide to, Keeps keeps) {
+  if (to == from) return i;
   // Enlarging: the pixel under the middle of the target pixel, the lower one if it is on a border.
   if (to >= from) return static_cast<int>(ceilDiv((2 * i + 1) * from, 2 * to) - 1);
   if (to == 1) --from;
