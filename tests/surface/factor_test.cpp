@@ -2,14 +2,18 @@
 // pointer. What is named AtTheFactor is run at several factors.
 #include "surface/qt/factor.h"
 
+#include <QBackingStore>
+#include <QPointingDevice>
 #include <QTest>
 #include <QWidget>
 #include <QWindow>
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <functional>
 #include <optional>
 #include <random>
+#include <vector>
 
 #include "support/script.h"
 #include "surface/host.h"
@@ -198,8 +202,8 @@ class AtTheFactor : public script::Stage {
   }
 
   // The pixel of the sheet, 11 from the left and 7 from the top of the window, that hears a press
-  // on a device pixel of the window.
-  std::optional<QPoint> pressedAt(int x, int y) {
+  // on a place of the window in device pixels.
+  std::optional<QPoint> pressedAt(double x, double y) {
     desk.pressed.reset();
     const QPointF at = QPointF(x, y) / factor;
     QWindow* handle = window->windowHandle();
@@ -243,6 +247,71 @@ TEST_F(AtTheFactor, TheWindowShowsTheSheetInSharpSquares) {
     for (int x = qRound(place.left()); x < qRound(place.right()); ++x)
       error = std::max(error, farthest(seen.pixel(x, y), resampled(image, place, x, y)));
   EXPECT_LE(error, Rounding);
+}
+
+TEST_F(AtTheFactor, WhatIsRepaintedIsAsSharpAsTheWhole) {
+  QCoreApplication::processEvents();
+  for (int x = 0; x < 20; ++x) {
+    press(desk.sheet, x, 7 * x % 20);
+    QCoreApplication::processEvents();
+  }
+  const auto* seen = dynamic_cast<QImage*>(window->backingStore()->paintDevice());
+  ASSERT_TRUE(seen);
+  EXPECT_EQ(seen->convertToFormat(QImage::Format_RGB32),
+            shown(desk).convertToFormat(QImage::Format_RGB32));
+}
+
+namespace {
+
+// What a sheet hears of a drag.
+std::vector<Mouse> heardOf(PictureBox& sheet, const std::function<void()>& drag) {
+  std::vector<Mouse> heard;
+  const auto hear = [&](const Mouse& at) {
+    if (at.Button) heard.push_back(at);
+  };
+  const auto ignore = [](const Mouse&) {};
+  for (auto* event : {&sheet.MouseDown, &sheet.MouseMove, &sheet.MouseUp}) *event = hear;
+  drag();
+  for (auto* event : {&sheet.MouseDown, &sheet.MouseMove, &sheet.MouseUp}) *event = ignore;
+  return heard;
+}
+
+}  // namespace
+
+TEST_F(AtTheFactor, AFingerDrawsAsTheMouseDoes) {
+  QWindow* handle = window->windowHandle();
+  const QPoint corner(11, 7), from(3, 4), middle(8, 6), to(17, 13);
+  const auto byMouse = heardOf(desk.sheet, [&] {
+    press(desk.sheet, from.x(), from.y());
+    move(desk.sheet, middle.x(), middle.y(), 1);
+    move(desk.sheet, to.x(), to.y(), 1);
+    release(desk.sheet, to.x(), to.y());
+  });
+  QPointingDevice* screen = QTest::createTouchDevice();
+  const auto byFinger = heardOf(desk.sheet, [&] {
+    QTest::touchEvent(handle, screen).press(0, corner + from);
+    QTest::touchEvent(handle, screen).move(0, corner + middle);
+    QTest::touchEvent(handle, screen).move(0, corner + to);
+    QTest::touchEvent(handle, screen).release(0, corner + to);
+    QCoreApplication::processEvents();
+  });
+  const auto plain = [](const std::vector<Mouse>& heard) {
+    std::vector<std::array<float, 3>> all;
+    for (const Mouse& at : heard) all.push_back({static_cast<float>(at.Button), at.X, at.Y});
+    return all;
+  };
+  EXPECT_EQ(byMouse.size(), 4u);
+  EXPECT_EQ(plain(byFinger), plain(byMouse));
+}
+
+TEST_F(AtTheFactor, APenBetweenTwoDevicePixelsDrawsWhereItStands) {
+  desk.sheet.MouseDown = [this](const Mouse& at) { desk.pressed = at; };
+  for (int device = 0; device < std::floor(20 * factor); ++device) {
+    const double at = device + 0.4;
+    const auto hit = pressedAt(11 * factor + at, 7 * factor + 3.4);
+    const int expected = static_cast<int>(std::floor(at / factor));
+    EXPECT_EQ(hit, QPoint(expected, static_cast<int>(std::floor(3.4 / factor)))) << device;
+  }
 }
 
 TEST_F(AtTheFactor, TheSameDragLeavesTheSameBitmap) {
