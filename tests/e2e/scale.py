@@ -49,12 +49,13 @@ class ScaleCase(cases.Case):
         """The program tells places in its own pixels."""
         self.desktop.click(*(int(factor * part) for part in program.control(name).middle))
 
-    def drawn_at(self, factor):
+    def drawn_at(self, factor, meanwhile):
         """Draws a line from (100, 100) to (200, 150) in a new program; gives the screen's part with the sheet, and the file."""
         factor = Fraction(factor)
         program = self.start()
         self.click(program, "Tekenen Groot", factor)
         program.wait_window(STUDIO)
+        meanwhile()
         left, top = self.corner(factor)
 
         def place(x, y):
@@ -92,8 +93,9 @@ class ScaleCase(cases.Case):
             return x, y
         return settled(look)
 
-    def lands_where_it_was_pressed(self, factor):
-        shown, saved = self.drawn_at(factor)
+    def lands_where_it_was_pressed(self, factor, meanwhile=lambda: None):
+        """Draws and compares; `meanwhile` is done once the studio stands."""
+        shown, saved = self.drawn_at(factor, meanwhile)
         self.assertEqual((saved.width, saved.height), kraspret.SHEET)
         black = saved.others(WHITE)
         self.assertEqual({x for x, _ in black}, set(range(100, 200)))

@@ -11,6 +11,7 @@
 #include <array>
 #include <cmath>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <random>
 #include <vector>
@@ -287,12 +288,12 @@ TEST_F(AtTheFactor, AFingerDrawsAsTheMouseDoes) {
     move(desk.sheet, to.x(), to.y(), 1);
     release(desk.sheet, to.x(), to.y());
   });
-  QPointingDevice* screen = QTest::createTouchDevice();
+  const std::unique_ptr<QPointingDevice> screen(QTest::createTouchDevice());
   const auto byFinger = heardOf(desk.sheet, [&] {
-    QTest::touchEvent(handle, screen).press(0, corner + from);
-    QTest::touchEvent(handle, screen).move(0, corner + middle);
-    QTest::touchEvent(handle, screen).move(0, corner + to);
-    QTest::touchEvent(handle, screen).release(0, corner + to);
+    QTest::touchEvent(handle, screen.get()).press(0, corner + from);
+    QTest::touchEvent(handle, screen.get()).move(0, corner + middle);
+    QTest::touchEvent(handle, screen.get()).move(0, corner + to);
+    QTest::touchEvent(handle, screen.get()).release(0, corner + to);
     QCoreApplication::processEvents();
   });
   const auto plain = [](const std::vector<Mouse>& heard) {
