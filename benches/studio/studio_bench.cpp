@@ -1,5 +1,6 @@
 // The large studio at work: what a pointer event, a press, a fill and a panel cost, from the
-// handler to the repainted window, beside a plain copy of the sheet or the best peer's lines.
+// handler to the repainted window, beside a plain copy of the sheet or the best peer's lines; and
+// the screens that open while a child waits.
 // Closes with a table of the bars.
 #include <benchmark/benchmark.h>
 
@@ -9,12 +10,14 @@
 #include <cmath>
 #include <cstdio>
 #include <cstring>
+#include <filesystem>
 #include <map>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "../raster/contender.h"
+#include "small/frmKleurplaat.h"
 #include "studio/frmTekenen2.h"
 #include "surface/host.h"
 #include "surface/qt/toolkit.h"
@@ -175,6 +178,20 @@ void placeDeepText(benchmark::State& state) {
   }
 }
 
+// A screen of colouring pages, from the click to fifteen pictures on the screen.
+void openPages(benchmark::State& state) {
+  if (!std::filesystem::exists(app().Path + "/Beeld/01.gif"))
+    return state.SkipWithError("the colouring pages are not beside the program");
+  for (auto _ : state) {
+    dispatch([] { showNew<frmKleurplaat>(); });
+    QApplication::processEvents();
+    state.PauseTiming();
+    unloadAll<frmKleurplaat>();
+    QApplication::processEvents();
+    state.ResumeTiming();
+  }
+}
+
 // The slowest first opening of a panel, when its controls are made.
 double slowestFirstOpening() {
   auto& studio = studioWith(Standard);
@@ -239,6 +256,7 @@ bool table(const Times& times, double firstOpening) {
   good &= row("a panel's first opening, the slowest", firstOpening, 16, "ms");
   good &= row("a text form of 300 fonts opens", times.of("text form") / 1000, 100, "ms");
   good &= row("text of depth 10, click to repainted sheet", times.of("deep text") / 1000, 30, "ms");
+  good &= row("a screen of colouring pages opens", times.of("pages") / 1000, 150, "ms");
   return good;
 }
 
@@ -248,6 +266,7 @@ int main(int argc, char** argv) {
   int onlyName = 1;
   QApplication application(onlyName, argv);
   surface::qt::install();
+  app().Path = (std::filesystem::path(argv[0]).parent_path() / "../kraspret").string();
   std::vector<char*> arguments(argv, argv + argc);
   std::string defaults[] = {"--benchmark_enable_random_interleaving=true",
                             "--benchmark_repetitions=7", "--benchmark_min_time=0.05"};
@@ -268,6 +287,7 @@ int main(int argc, char** argv) {
   enter("panels", panels);
   enter("text form", openTextForm);
   enter("deep text", placeDeepText);
+  enter("pages", openPages);
   const auto strokes = artStrokes();
   std::vector<std::unique_ptr<race::Contender>> peers;
   for (const race::Maker make :
