@@ -21,9 +21,9 @@ TEST(Tiles, ASmallChangeIsShownExactly) {
   Tiles tiles;
   tiles.reset(600, 500);
   EXPECT_FALSE(tiles.unshown());
-  tiles.paint({40, 41, 50, 60});
+  tiles.paint({33, 35, 40, 47});
   EXPECT_TRUE(tiles.unshown());
-  EXPECT_EQ(tiles.takeUnshown(), list({{40, 41, 50, 60}}));
+  EXPECT_EQ(tiles.takeUnshown(), list({{33, 35, 40, 47}}));
   EXPECT_FALSE(tiles.unshown());
   EXPECT_TRUE(tiles.takeUnshown().empty());
 }

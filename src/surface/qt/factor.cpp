@@ -11,6 +11,8 @@
 #include <cstring>
 #include <vector>
 
+#include "surface/numbers.h"
+
 namespace surface::qt {
 namespace {
 
@@ -37,7 +39,7 @@ std::vector<Cell> cells(double start, double scale, int from, int count, int las
     if (first < 0 || first >= last)
       all.push_back({std::clamp(first, 0, last), 0});
     else
-      all.push_back({first, static_cast<unsigned>(std::clamp(share, 0.0, 1.0) * 256 + 0.5)});
+      all.push_back({first, static_cast<unsigned>(nearestInt(std::clamp(share, 0.0, 1.0) * 256))});
   }
   return all;
 }
@@ -75,11 +77,12 @@ class Squares {
   /// Paints a part of the bounds into the upper left corner of a block.
   void paint(const QRect& part, QImage& block) {
     first_ = across_.data() + (part.x() - corner_.x());
+    const Cell* const down = down_.data() + (part.y() - corner_.y());
     held_ = {-1, -1};
     const auto width = static_cast<std::size_t>(part.width());
     for (std::vector<Pixel>& line : lines_) line.resize(width);
     for (int y = 0; y < part.height(); ++y) {
-      const Cell& cell = down_[static_cast<std::size_t>(part.y() - corner_.y() + y)];
+      const Cell& cell = down[y];
       auto* to = reinterpret_cast<Pixel*>(block.scanLine(y));
       const Pixel* upper = widened(cell.first);
       if (cell.share)
@@ -107,7 +110,7 @@ class Squares {
   const QImage& image_;
   QPoint corner_;
   std::vector<Cell> across_, down_;
-  const Cell* first_ = nullptr;  // of the part
+  const Cell* first_ = nullptr;  // the part's
   std::array<std::vector<Pixel>, 2> lines_;
   std::array<int, 2> held_{-1, -1};
 };
