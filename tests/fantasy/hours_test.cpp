@@ -24,25 +24,12 @@ extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
 
 using namespace surface;
 
-namespace {
-
-#ifdef __SANITIZE_ADDRESS__
-std::size_t heldBytes() { return __sanitizer_get_current_allocated_bytes(); }
-#else
-std::size_t heldBytes() {
-  const auto info = mallinfo2();
-  return info.uordblks + info.hblkhd;
-}
-#endif
-
-constexpr std::int64_t Stride = 30'000, Hour = 3'600'000;
-// A hundred bytes a tick would be more.
-constexpr std::size_t Slack = 64 * 1024;
-
-}  // namespace
-
 class EightHours : public script::Stage {
  protected:
+  static constexpr std::int64_t Stride = 30'000, Hour = 3'600'000, Strides = 8 * Hour / Stride;
+  // A hundred bytes a tick would be more.
+  static constexpr std::size_t Slack = 64 * 1024;
+
   EightHours() {
     host().clock = [this] { return clock_; };
   }
@@ -75,10 +62,17 @@ class EightHours : public script::Stage {
   }
 
  private:
+#ifdef __SANITIZE_ADDRESS__
+  static std::size_t heldBytes() { return __sanitizer_get_current_allocated_bytes(); }
+#else
+  static std::size_t heldBytes() {
+    const auto info = mallinfo2();
+    return info.uordblks + info.hblkhd;
+  }
+#endif
+
   std::int64_t clock_ = 0, ticks_ = 0;
 };
-
-constexpr std::int64_t Strides = 8 * Hour / Stride;
 
 TEST_F(EightHours, OfLateTicksLeaveNothingBehindOfTheWind) {
   auto& screen = showNew<frmFantasie1>();

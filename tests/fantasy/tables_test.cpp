@@ -17,8 +17,8 @@ using namespace surface;
 namespace {
 
 enum State { Shows, Waits };
-constexpr Color Grey = 0xE0E0E0;
-const std::string Watching = "KRAS PRET  -  MET ENIGE FANTASIE  KIJKEN  -  ";
+constexpr Color Pale = 0xE0E0E0;
+const std::string Title = "KRAS PRET  -  MET ENIGE FANTASIE  KIJKEN  -  ";
 
 // The place in twips, whatever the form counts in.
 void expectPlace(Control& control, const Control::Place& place) {
@@ -90,9 +90,9 @@ TEST_F(FantasyTables, TheMenu) {
 
 TEST_F(FantasyTables, Wind) {
   auto& screen = showNew<frmFantasie1>();
-  expectWindow(screen, Watching + "HERFSTWIND", Grey, ScaleTwips);
+  expectWindow(screen, Title + "HERFSTWIND", Pale, ScaleTwips);
   expectControl(screen.Label1, "Je kan de windsnelheid aanpassen met de schuifregelaar.",
-                {240, 120, 6855, 375}, Grey, 12);
+                {240, 120, 6855, 375}, Pale, 12);
   EXPECT_EQ(screen.Label1.ForeColor, 0x0000FF);
   expectPlace(screen.Slider1, {240, 600, 1455, 495});
   EXPECT_EQ(screen.Slider1.Min, 3);
@@ -109,9 +109,9 @@ TEST_F(FantasyTables, Wind) {
 
 TEST_F(FantasyTables, Kaleidoscope) {
   auto& screen = the<frmFantasie2>();
-  expectWindow(screen, Watching + "LENTEKRIEBELS", Grey, ScaleTwips);
+  expectWindow(screen, Title + "LENTEKRIEBELS", Pale, ScaleTwips);
   const auto button = [](float top) { return Control::Place{240, top, 1455, 615}; };
-  expectControl(screen.Label2, "Je kan het beeld veranderen", {240, 120, 3255, 375}, Grey, 12);
+  expectControl(screen.Label2, "Je kan het beeld veranderen", {240, 120, 3255, 375}, Pale, 12);
   EXPECT_EQ(screen.Label2.ForeColor, 0x0000FF);
   expectControl(screen.cmdVergroten, "Groter", button(600), 0x00FFFF, 15.75f);
   expectControl(screen.cmdHoekmarkering, "Enorm", button(1320), 0x00FF00, 15.75f);
@@ -124,9 +124,9 @@ TEST_F(FantasyTables, Kaleidoscope) {
 
 TEST_F(FantasyTables, Flower) {
   auto& screen = the<frmFantasie3>();
-  expectWindow(screen, Watching + "ZOMERVREUGDE", Grey, ScaleTwips);
+  expectWindow(screen, Title + "ZOMERVREUGDE", Pale, ScaleTwips);
   expectControl(screen.lblBloem, "Laat de bloem eens verder ontluiken.", {240, 120, 4335, 375},
-                Grey, 12);
+                Pale, 12);
   EXPECT_EQ(screen.lblBloem.ForeColor, 0x0000FF);
   expectControl(screen.cmdSnel, "Sneller", {240, 600, 1455, 615}, 0x00FF00, 15.75f);
   expectControl(screen.cmdTraag, "Trager", {240, 600, 1455, 615}, 0xFFFF00, 15.75f, Waits);
@@ -139,14 +139,14 @@ TEST_F(FantasyTables, Flower) {
 
 TEST_F(FantasyTables, Worms) {
   auto& screen = the<frmFantasie4>();
-  expectWindow(screen, Watching + "WRIEMELENDE REGENWORMEN", Grey, ScaleTwips);
+  expectWindow(screen, Title + "WRIEMELENDE REGENWORMEN", Pale, ScaleTwips);
   expectPlace(screen.Picture1, {0, 0, 11895, 8295});
   EXPECT_FALSE(screen.Picture1.AutoRedraw);
   EXPECT_EQ(screen.Picture1.ScaleMode(), ScaleTwips);
-  EXPECT_EQ(screen.Picture1.BackColor, Grey);
+  EXPECT_EQ(screen.Picture1.BackColor, Pale);
   EXPECT_EQ(screen.Picture1.FillStyle, 0);
   EXPECT_EQ(screen.Picture1.FillColor, 0x0000C0);
-  expectControl(screen.lblBloem, "volg de kleurrijke regenwormen", {1080, 0, 3855, 375}, Grey, 12);
+  expectControl(screen.lblBloem, "volg de kleurrijke regenwormen", {1080, 0, 3855, 375}, Pale, 12);
   expectControl(screen.lblAntwoord,
                 "Dit kan zo nog uren doorgaan ! Ermee stoppen of nog een worm ?",
                 {7800, 0, 3735, 2055}, 0xC0FFFF, 21.75f, Waits);
@@ -166,7 +166,7 @@ TEST_F(FantasyTables, Worms) {
 
 TEST_F(FantasyTables, Fireworks) {
   auto& screen = the<frmFantasie5>();
-  expectWindow(screen, Watching + "FEESTELIJK VUURWERK", 0xC0C0C0, ScaleTwips);
+  expectWindow(screen, Title + "FEESTELIJK VUURWERK", 0xC0C0C0, ScaleTwips);
   expectPlace(screen.picVuurwerk, {0, 0, 11895, 8295});
   EXPECT_FALSE(screen.picVuurwerk.AutoRedraw);
   EXPECT_EQ(screen.picVuurwerk.ScaleMode(), ScaleTwips);
@@ -185,16 +185,16 @@ TEST_F(FantasyTables, Fireworks) {
 
 TEST_F(FantasyTables, Wheel) {
   auto& screen = the<frmFantasie6>();
-  expectWindow(screen, Watching + "WINDMOLENTJE ( of is het een FIETSWIEL ? )", Grey, ScaleTwips);
+  expectWindow(screen, Title + "WINDMOLENTJE ( of is het een FIETSWIEL ? )", Pale, ScaleTwips);
   const auto button = [](float top) { return Control::Place{240, top, 1455, 615}; };
   expectControl(screen.lblBloem, "Er zijn allerlei instellingen om het wiel te veranderen",
-                {240, 120, 6015, 375}, Grey, 12);
+                {240, 120, 6015, 375}, Pale, 12);
   expectControl(screen.cmdStart, "Start", button(480), 0x00FF00, 15.75f);
   screen.cmdPauze.Enabled = true;  // disabled until something turns, but it shows
   expectControl(screen.cmdPauze, "Pauze", button(1200), 0x00FFFF, 15.75f);
-  expectControl(screen.Label4, "beginkleur is", {240, 1920, 1575, 375}, Grey, 12);
-  expectControl(screen.lblVerklein, "verkleinen", {240, 2760, 1455, 375}, Grey, 12);
-  expectControl(screen.lblSnelheid2, "de snelheid", {240, 3600, 1575, 375}, Grey, 12);
+  expectControl(screen.Label4, "beginkleur is", {240, 1920, 1575, 375}, Pale, 12);
+  expectControl(screen.lblVerklein, "verkleinen", {240, 2760, 1455, 375}, Pale, 12);
+  expectControl(screen.lblSnelheid2, "de snelheid", {240, 3600, 1575, 375}, Pale, 12);
   expectControl(screen.lblSnelheid, "100", {1200, 4080, 495, 375}, White, 12);
   expectControl(screen.cmdKleurrijk, "Kleurrijk", button(4560), 0xFFFF00, 15.75f);
   expectControl(screen.cmdSluiten, "Sluiten", button(5280), 0xC0C0C0, 15.75f);
@@ -217,7 +217,7 @@ TEST_F(FantasyTables, Wheel) {
 
 TEST_F(FantasyTables, Stars) {
   auto& screen = the<frmFantasie7>();
-  expectWindow(screen, Watching + "STERRENPRACHT", Black, ScalePixels);
+  expectWindow(screen, Title + "STERRENPRACHT", Black, ScalePixels);
   EXPECT_TRUE(screen.AutoRedraw);
   const auto button = [](float top) { return Control::Place{120, top, 1455, 615}; };
   expectControl(screen.lblSnelheid2, "je kan de sterrenhemel aanpassen", {120, 240, 3975, 375},
@@ -235,7 +235,7 @@ TEST_F(FantasyTables, Stars) {
 
 TEST_F(FantasyTables, Lightning) {
   auto& screen = the<frmFantasie8>();
-  expectWindow(screen, Watching + "BLIKSEMSCHICHTEN", Black, ScaleTwips);
+  expectWindow(screen, Title + "BLIKSEMSCHICHTEN", Black, ScaleTwips);
   expectControl(screen.cmdSluiten, "Sluiten", {120, 120, 1455, 615}, 0xC0C0C0, 15.75f);
   expectTimer(screen.Timer1, 1, true);
   expectTimer(screen.Timer2, 1, false);

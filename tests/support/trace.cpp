@@ -7,15 +7,13 @@
 
 #include <ostream>
 
-using namespace raster;
-
 namespace script {
 namespace {
 
 Listener* listening = nullptr;
 
-void hear(Drawn::Shape shape, const Target& target, const Pen& pen, const Brush& brush,
-          const std::array<double, 4>& place) {
+void hear(Drawn::Shape shape, const raster::Target& target, const raster::Pen& pen,
+          const raster::Brush& brush, const std::array<double, 4>& place) {
   if (listening)
     listening->heard.push_back(
         {shape, pen.style, pen.width, pen.color, brush.style, brush.color, target.rop, place});
@@ -45,38 +43,44 @@ std::ostream& operator<<(std::ostream& out, const Drawn& drawn) {
 using script::Drawn;
 using script::hear;
 
-Rect ownLine(Target, const Pen&, int, int, int,
-             int) asm("__real__ZN6raster4lineENS_6TargetERKNS_3PenEiiii");
-Rect heardLine(Target, const Pen&, int, int, int,
-               int) asm("__wrap__ZN6raster4lineENS_6TargetERKNS_3PenEiiii");
-Rect ownDot(Target, const Pen&, int, int) asm("__real__ZN6raster3dotENS_6TargetERKNS_3PenEii");
-Rect heardDot(Target, const Pen&, int, int) asm("__wrap__ZN6raster3dotENS_6TargetERKNS_3PenEii");
-Rect ownFilledBox(Target, const Pen&, int, int, int,
-                  int) asm("__real__ZN6raster9filledBoxENS_6TargetERKNS_3PenEiiii");
-Rect heardFilledBox(Target, const Pen&, int, int, int,
-                    int) asm("__wrap__ZN6raster9filledBoxENS_6TargetERKNS_3PenEiiii");
-Rect ownEllipse(Target, const Pen&, const Brush&, int, int, double,
-                double) asm("__real__ZN6raster7ellipseENS_6TargetERKNS_3PenERKNS_5BrushEiidd");
-Rect heardEllipse(Target, const Pen&, const Brush&, int, int, double,
-                  double) asm("__wrap__ZN6raster7ellipseENS_6TargetERKNS_3PenERKNS_5BrushEiidd");
+raster::Rect ownLine(raster::Target, const raster::Pen&, int, int, int,
+                     int) asm("__real__ZN6raster4lineENS_6TargetERKNS_3PenEiiii");
+raster::Rect heardLine(raster::Target, const raster::Pen&, int, int, int,
+                       int) asm("__wrap__ZN6raster4lineENS_6TargetERKNS_3PenEiiii");
+raster::Rect ownDot(raster::Target, const raster::Pen&, int,
+                    int) asm("__real__ZN6raster3dotENS_6TargetERKNS_3PenEii");
+raster::Rect heardDot(raster::Target, const raster::Pen&, int,
+                      int) asm("__wrap__ZN6raster3dotENS_6TargetERKNS_3PenEii");
+raster::Rect ownFilledBox(raster::Target, const raster::Pen&, int, int, int,
+                          int) asm("__real__ZN6raster9filledBoxENS_6TargetERKNS_3PenEiiii");
+raster::Rect heardFilledBox(raster::Target, const raster::Pen&, int, int, int,
+                            int) asm("__wrap__ZN6raster9filledBoxENS_6TargetERKNS_3PenEiiii");
+raster::Rect ownEllipse(
+    raster::Target, const raster::Pen&, const raster::Brush&, int, int, double,
+    double) asm("__real__ZN6raster7ellipseENS_6TargetERKNS_3PenERKNS_5BrushEiidd");
+raster::Rect heardEllipse(
+    raster::Target, const raster::Pen&, const raster::Brush&, int, int, double,
+    double) asm("__wrap__ZN6raster7ellipseENS_6TargetERKNS_3PenERKNS_5BrushEiidd");
 
-Rect heardLine(Target target, const Pen& pen, int x1, int y1, int x2, int y2) {
+raster::Rect heardLine(raster::Target target, const raster::Pen& pen, int x1, int y1, int x2,
+                       int y2) {
   hear(Drawn::Line, target, pen, {}, {double(x1), double(y1), double(x2), double(y2)});
   return ownLine(target, pen, x1, y1, x2, y2);
 }
 
-Rect heardDot(Target target, const Pen& pen, int x, int y) {
+raster::Rect heardDot(raster::Target target, const raster::Pen& pen, int x, int y) {
   hear(Drawn::Dot, target, pen, {}, {double(x), double(y)});
   return ownDot(target, pen, x, y);
 }
 
-Rect heardFilledBox(Target target, const Pen& pen, int x1, int y1, int x2, int y2) {
+raster::Rect heardFilledBox(raster::Target target, const raster::Pen& pen, int x1, int y1, int x2,
+                            int y2) {
   hear(Drawn::FilledBox, target, pen, {}, {double(x1), double(y1), double(x2), double(y2)});
   return ownFilledBox(target, pen, x1, y1, x2, y2);
 }
 
-Rect heardEllipse(Target target, const Pen& pen, const Brush& brush, int cx, int cy, double rx,
-                  double ry) {
+raster::Rect heardEllipse(raster::Target target, const raster::Pen& pen, const raster::Brush& brush,
+                          int cx, int cy, double rx, double ry) {
   hear(Drawn::Ellipse, target, pen, brush, {double(cx), double(cy), rx, ry});
   return ownEllipse(target, pen, brush, cx, cy, rx, ry);
 }
