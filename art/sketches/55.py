@@ -14,7 +14,7 @@ p.shape("404 -10!, 408 40, 398 84, 380 104!, 470 104!, 452 80, 448 40, 452 -10!"
 p.note("the cloth")
 p.shape(oval(330, 330, 270, 156))
 with p.within(oval(330, 330, 268, 154)):
-    p.lines("238 100, 160 540", "400 100, 470 540", "0 274, 620 266", "0 372, 620 384", width=4)
+    p.lines("238 100, 160 540", "400 100, 470 540", "0 274, 620 266", width=4)
 
 p.note("cake on its plate, tugged off the cloth by the squirrel")
 with p.at(298, 148, 1, -8):
