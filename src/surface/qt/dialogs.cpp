@@ -16,7 +16,6 @@
 #include <QMimeData>
 #include <QPushButton>
 #include <QScreen>
-#include <QSettings>
 #include <QStandardPaths>
 #include <QStyle>
 #include <QToolButton>
@@ -28,6 +27,7 @@
 #include "surface/form.h"
 #include "surface/qt/images.h"
 #include "surface/qt/peers.h"
+#include "surface/qt/system.h"
 
 namespace surface::qt {
 namespace {
@@ -139,13 +139,6 @@ class PlainIcons : public QFileIconProvider {
   const QIcon sheet_ = QApplication::style()->standardIcon(QStyle::SP_FileIcon);
 };
 
-// Dialogs of the toolkit write down their sizes and where they were. Beneath a file nothing can be
-// made.
-void keepNothing() {
-  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
-                     QCoreApplication::applicationFilePath());
-}
-
 QWidget* owner() { return QApplication::activeWindow(); }
 
 // A window that stays above all others would hide a dialog that opens in its place.
@@ -204,7 +197,7 @@ std::optional<std::string> inputBox(const std::string& prompt, const std::string
 
 std::optional<std::string> fileDialog(const FileRequest& request) {
   showPending();
-  keepNothing();
+  const NothingKept nothingKept;
   PlainIcons icons;  // the dialog uses it until it is gone
   QFileDialog dialog(owner(), request.save ? "Opslaan als" : "Openen", folder());
   dialog.setIconProvider(&icons);
@@ -232,7 +225,7 @@ std::optional<std::string> fileDialog(const FileRequest& request) {
 
 std::optional<Color> colorDialog(Color initial, int flags) {
   showPending();
-  keepNothing();
+  const NothingKept nothingKept;
   QColorDialog dialog(toQColor(initial), owner());
   prepareDialog(dialog);
   dialog.setWindowTitle("Kleur");

@@ -2,7 +2,9 @@
 // how it is asked to end. system_posix.cpp and system_windows.cpp.
 #pragma once
 
+#include <QVariant>
 #include <functional>
+#include <map>
 
 #include "surface/app.h"
 
@@ -13,6 +15,19 @@ App startedAs(int argc, char** argv);
 
 /// Before there is an application: what the toolkit has to know on this system.
 void prepareToolkit();
+
+/// Dialogs of the toolkit write down their sizes and where they were when they go. While this lives
+/// that leads to nothing, or is undone at its end: declare it before the dialog.
+class NothingKept {
+ public:
+  NothingKept();
+  ~NothingKept();
+  NothingKept(const NothingKept&) = delete;
+  NothingKept& operator=(const NothingKept&) = delete;
+
+ private:
+  std::map<QString, QVariant> former_;  ///< what other programs had written there
+};
 
 /// Runs `act` in the event loop when the system asks the program to end (SIGTERM, SIGHUP, SIGINT),
 /// once. It has two seconds; then the program ends in the middle of it, as if it had ended well.

@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <QSettings>
 #include <QSocketNotifier>
 #include <QStandardPaths>
 #include <array>
@@ -64,6 +65,14 @@ void handle(int signal, void (*handler)(int)) {
 App startedAs(int argc, char** argv) { return {folderOf(argv[0]), joined(argc, argv)}; }
 
 void prepareToolkit() {}
+
+// Beneath a file nothing can be made.
+NothingKept::NothingKept() {
+  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
+                     QCoreApplication::applicationFilePath());
+}
+
+NothingKept::~NothingKept() = default;
 
 void whenAskedToEnd(std::function<void()> act) {
   if (pipe2(askedPipe.data(), O_CLOEXEC | O_NONBLOCK) != 0) return;

@@ -5,6 +5,7 @@
 #include <shellapi.h>
 
 #include <QFileInfo>
+#include <QSettings>
 #include <QString>
 #include <QtGlobal>
 #include <memory>
@@ -42,6 +43,23 @@ void prepareToolkit() {
   // Letters by the engine that draws them elsewhere too have the same dots.
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
     qputenv("QT_QPA_PLATFORM", "windows:fontengine=freetype");
+}
+
+// The registry takes all; programs with the same toolkit share this part of it.
+NothingKept::NothingKept() {
+  const QSettings settings(QSettings::UserScope, "QtProject");
+  for (const QString& key : settings.allKeys()) former_[key] = settings.value(key);
+}
+
+NothingKept::~NothingKept() {
+  QSettings settings(QSettings::UserScope, "QtProject");
+  settings.clear();
+  for (const auto& [key, value] : former_) settings.setValue(key, value);
+  settings.sync();
+  if (!former_.empty()) return;
+  RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\QtProject\\OrganizationDefaults");
+  // Refused if there is something else in it.
+  RegDeleteKeyW(HKEY_CURRENT_USER, L"Software\\QtProject");
 }
 
 void whenAskedToEnd(std::function<void()>) {}
