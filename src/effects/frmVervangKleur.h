@@ -19,7 +19,7 @@ class frmVervangKleur : public surface::Form {
 
   Label Label5{*this, text(120, 120, 5880, "")};
   Label Label1{*this, text(120, 690, 615, "-100")};
-  Label Label2{*this, text(3960, 690, 615, "+100")};
+  Label Label2{*this, text(4140, 690, 435, "+100")};
   // Red, green and blue
   ControlArray<PictureBox, 3> Picture1{*this, {track(960), track(1440), track(1920)}};
   LineControl Line1[3] = {

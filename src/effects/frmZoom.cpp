@@ -8,7 +8,7 @@ using namespace surface;
 
 frmZoom::frmZoom()
     : Form({.Caption = std::string(22, ' ') + "IN / UIT ZOOMEN",
-            .Width = 4440,
+            .Width = 4740,
             .Height = 3255,
             .BorderStyle = Border::Fixed}) {
   Slider1.AccessibleName = "vergroting";

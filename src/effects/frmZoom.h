@@ -19,7 +19,7 @@ class frmZoom : public surface::Form {
                   .SmallChange = 1,
                   .LargeChange = 1,
                   .Vertical = true}};
-  ImageControl imgStretch{*this, {.Left = 1080, .Top = 120, .Width = 3015, .Height = 3015}};
+  ImageControl imgStretch{*this, {.Left = 1230, .Top = 120, .Width = 3015, .Height = 3015}};
   LineControl Line1{*this, {}};
   LineControl Line2{*this, {}};
 

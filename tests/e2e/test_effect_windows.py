@@ -121,7 +121,7 @@ class EffectWindows(effects.Case):
         x, y = 250, 40
         left, top, _, _ = slider.rectangle
         self.assertLess(max(left, top), 50, "it stands in the upper left corner")
-        corner = left + (1080 - 120) // 15, top
+        corner = left + (1230 - 120) // 15, top
 
         def shown(i, j):
             return BLACK if 100 in (i, j) else self.at(x - 10 + i // 10, y - 10 + j // 10)
