@@ -22,7 +22,7 @@ with p.at(556, 176, .72, -14):
 
 p.note("elephant: far legs")
 with p.at(14, 6):
-    p.shape(limb("96 300, 98 380, 96 430", 60, 54, flat=True))
+    p.shape(limb("86 300, 84 380, 78 430", 60, 50, flat=True))
     p.shape(limb("230 300, 228 380, 230 430", 60, 54, flat=True))
     p.note("elephant: body, near legs, head and trunk are one outline; tail, ear")
     p.one("30 180, 80 124, 160 112, 220 124, 270 128, 310 160, 320 220, 300 290, 270 330, 160 340, 50 330, 16 270",
