@@ -5,7 +5,6 @@ p = Page("27", "The school bus waits: a boy runs to the step, the dog brings the
 
 p.note("street and roofs")
 p.shape("-10 150!, 40 96!, 96 150!, 96 380!, -10 380!")
-p.shape(box(24, 190, 44, 56))
 p.shape("-10 400!, 640 372!, 640 560!, -10 560!")
 
 p.note("bus from the side")
@@ -35,10 +34,12 @@ p.shape("316 88!, 342 76!, 342 392!, 316 378!")
 p.line("329 130, 329 230", 4)
 p.shape("246 372!, 318 368!, 322 396!, 240 400!")
 with p.within(box(256, 92, 58, 276)):
-    with p.at(292, 176, .62, flip=True):
-        p.one("-30 62!, 20 58!, 44 90, 50 310!, -70 310!, -52 100")
-        head(p, "side", "tails", mouth="open", brows=None, r=7)
-p.one(arm("276 262, 272 294, 292 312", 22, 20, thumb=-1), join=(276, 258, 17))
+    with p.at(284, 178, .62):
+        p.one("-40 62!, 16 58!, 44 90, 52 310!, -66 310!, -52 100")
+        p.shape("-34 60!, 12 58!, 2 104!", 3)
+        p.line("-62 206, 60 200", 4)
+        head(p, "side", "bun", mouth="open", brows=None, r=7)
+p.one(arm("272 250, 268 282, 290 302", 24, 21, thumb=-1), join=(272, 246, 18))
 p.note("two whole wheels")
 for x, y in ((206, 380), (510, 366)):
     p.shape(oval(x, y, 52))
