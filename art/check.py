@@ -1,6 +1,7 @@
 """Judges colouring pages: size, two colours, areas to colour, crumbs, inked corners, lines that stop short. `check.py NN...
 [--flood DIR]` also floods every area in a colour of its own and writes DIR/NN.png, which shows leaks and crumbs at once.
 Exit status 1 if a page fails. `tests/art/break_pages.py` shows each check a page that it must refuse."""
+import colorsys
 import pathlib
 import re
 import sys
@@ -15,8 +16,8 @@ FEWEST = 35         # areas of a page
 MOST = 70           # and at most; 60 are better
 PATCH = 9           # black may not be wider (two lines that part are 8 together), but for pupils, noses and buttons
 GAP = 7             # a line that ends so near to another one looks as if it had been meant to reach it
-HUES = [(230, 57, 70), (255, 210, 63), (87, 185, 71), (47, 125, 225), (255, 140, 66), (142, 91, 208), (31, 163, 196),
-        (255, 158, 187), (165, 103, 47), (191, 227, 255), (46, 139, 61), (246, 223, 164), (185, 190, 201), (180, 230, 120)]
+HUES = [tuple(round(255 * c) for c in colorsys.hsv_to_rgb(k * .382 % 1, (.85, .45, .7)[k % 3], (.95, 1, .65)[k % 3]))
+        for k in range(MOST)]       # steps of the golden section: neighbours differ, no two are the same
 
 
 def areas(pixels, width, height):
