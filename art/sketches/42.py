@@ -12,6 +12,9 @@ with p.within("300 60!, 596 24!, 640 60!, 640 330!, 320 340!"):
 p.shape("300 46!, 318 46!, 330 384!, 308 384!")
 p.shape("300 46!, 640 10!, 640 26!, 300 64!")
 
+p.note("chalk line on the grass")
+p.shape("-10 470!, 540 426!, 540 444!, -10 490!")
+
 p.note("kicker, smaller, weight on one leg")
 with p.at(112, 286, .74):
     p.one(arm("-20 40, -60 58, -92 36", 30, 24, thumb=1))
@@ -25,7 +28,7 @@ with p.at(112, 286, .74):
         p.lines("-60 64, 60 58", "-60 92, 60 88")
     p.shape("-40 120!, 36 114!, 60 140, 52 182!, 12 178, -2 166!, -12 188, -50 184!, -46 150")
     p.shape(limb("-6 10, -6 30", 26, 26))
-    with p.at(4, -28, .98, -6):
+    with p.at(2, -28, .98, -20):
         head(p, "side", "curly", mouth="o", brows=6)
     p.one(limb("-16 40, 14 66, 34 74", 36, 32, flat=True), arm("34 74, 58 74, 70 58", 26, 24, thumb=1), join=(-18, 38, 20))
 
@@ -48,7 +51,7 @@ with p.at(384, 222, 1, 22):
     p.one(limb("-66 26, -120 46, -160 36", 52, 44, 38, flat=True), join=(-62, 24, 26))
     p.one("-154 18!, -158 56!, -184 58, -216 52, -222 36, -206 22, -196 6, -178 4, -172 16")
 p.note("ball just beyond the fingers")
-with p.at(90, 84):
+with p.at(124, 112):
     p.shape(oval(0, 0, 38))
     with p.within(oval(0, 0, 38)):
         p.shape(star(0, 0, 17, .81))
