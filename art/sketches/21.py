@@ -6,7 +6,6 @@ p = Page("21", "The fire brigade rescues a cat: it pats the fireman's helmet fro
 p.note("house, hedge, street")
 p.shape("26 400!, 26 150!, 116 60!, 206 150!, 206 400!")
 p.shape("84 130!, 148 130!, 148 206!, 84 206!")
-p.lines("84 168, 148 168", width=4)
 p.shape(scallops("-10 420, -10 340, 200 316, 420 334, 640 330, 640 420", 17, .28))
 p.shape("-10 470!, 640 452!, 640 560!, -10 560!")
 
@@ -66,13 +65,15 @@ for x in (66, 268):
     p.shape(oval(x, 476, 42))
     p.shape(oval(x, 476, 19))
 
-p.note("old lady with a bowl of milk")
-p.one(limb("492 354, 494 376", 26, 26), "460 372, 494 364, 526 382, 540 440, 548 512!, 444 512!, 452 440")
+p.note("old lady with a bowl of milk, one foot before the other")
+shoe(p, 516, 506, 0, 1, True)
+shoe(p, 470, 510, 0, 1, True)
+p.one(limb("492 354, 494 376", 26, 26), "460 372, 494 364, 526 382, 542 440, 556 506!, 500 516, 440 504!, 452 440")
+p.line("447 462, 500 474, 549 462", 4)
 p.shape("462 366!, 494 376, 522 368!, 528 386, 494 396, 456 384")
 with p.at(488, 322, .82, 12, flip=True):
     p.shape(oval(-38, -46, 23))
     head(p, "side", "parting", eyes="white", look=(.9, -.7), mouth="open", brows=None, r=4.4)
-p.shapes("454 510!, 440 522, 442 530!, 486 530!, 486 510!", "496 510!, 484 522, 486 530!, 530 530!, 530 510!")
 p.shape("398 410!, 462 410!, 454 430, 430 438, 406 430")
 p.shape(oval(430, 410, 32, 8), 3)
 p.one(limb("500 408, 508 448, 468 436", 34, 34, 29, flat=True), arm("470 438, 462 434, 456 430", 24, 22, thumb=1, grip=True), join=(500, 400, 21))

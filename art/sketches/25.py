@@ -46,13 +46,15 @@ with p.at(230, 374, 1, -4):
     p.note("boy at the sheet")
     p.line("-168 -112, -174 -20", 4)
     with p.at(-112, -18):
-        p.one(limb("-6 -14, -8 14", 28, 28), "-42 60!, -40 26, -10 6, 26 20, 34 60!")
+        p.shape(limb("-6 -24, -8 10", 28, 28))
+        p.shape("-44 60!, -44 16, -24 -4!, 12 -6!, 32 14, 38 60!")
         with p.at(0, -52, .84):
             head(p, "34", "tuft", eyes="dot", mouth="smile", brows=2)
         p.one(limb("-22 26, -52 52, -60 20", 38, 32, 27, flat=True), arm("-60 22, -62 10, -64 4", 23, 21, thumb=-1, grip=True), join=(-18, 24, 19))
     p.note("girl at the bow reaches for the ball")
     p.one(arm("112 -2, 166 -34, 202 -66", 32, 26, 22, thumb=1))
-    p.one(limb("96 -66, 88 -34", 28, 28), "60 30!, 56 -14, 78 -38, 108 -34, 128 0, 124 30!")
+    p.shape(limb("96 -66, 88 -34", 28, 28))
+    p.shape("60 30!, 56 -14, 72 -40!, 106 -40!, 128 0, 124 30!")
     with p.at(106, -104, .88, 8):
         head(p, "side", "tails", mouth="open", brows=5)
     p.one(limb("80 -12, 120 20, 160 -4", 40, 34, 29, flat=True), arm("158 -4, 182 -18, 194 -28", 25, 22, thumb=-1), join=(76, -18, 20))
