@@ -1,6 +1,7 @@
 // The colouring pages: choosing one of sixty, finding the way between the screens, colouring it.
 #include <gmock/gmock.h>
 
+#include <QAccessible>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QTest>
@@ -243,6 +244,15 @@ TEST_F(Colouring, ThePageThatHasTheKeyboardIsMarked) {
   const QImage with = shown(page.pic2);
   script::widgetOf(page.pic3)->setFocus();
   EXPECT_NE(shown(page.pic2), with);
+}
+
+TEST_F(Colouring, AScreenReaderCanPressAPage) {
+  auto& page = showNew<frmKleurplaat>();
+  auto* heard = QAccessible::queryAccessibleInterface(script::widgetOf(page.pic7));
+  ASSERT_TRUE(heard->actionInterface()->actionNames().contains("Press"));
+  heard->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  advance(0);
+  EXPECT_EQ(differences(*studio().picBlad.bitmap(), pageImage(7)), 0);
 }
 
 TEST_F(Colouring, AKeyThatIsHeldDownChoosesNothingMore) {

@@ -3,6 +3,8 @@
 
 #include <QAccessible>
 #include <QAccessibleWidget>
+#include <QCoreApplication>
+#include <QKeyEvent>
 
 #include "surface/qt/display_widgets.h"
 #include "surface/qt/input_widgets.h"
@@ -12,7 +14,8 @@
 namespace surface::qt {
 namespace {
 
-// A label, a picture or a line. Without a text and a name it only adorns the screen.
+// A label, a picture or a line. Without a text and a name it only adorns the screen; one that
+// answers clicks can be pressed.
 class Adornment : public QAccessibleWidget {
  public:
   using QAccessibleWidget::QAccessibleWidget;
@@ -27,6 +30,16 @@ class Adornment : public QAccessibleWidget {
     QAccessible::State state = QAccessibleWidget::state();
     if (text(QAccessible::Name).isEmpty()) state.invisible = true;
     return state;
+  }
+
+  QStringList actionNames() const override {
+    const QStringList own = QAccessibleWidget::actionNames();
+    return widget()->focusPolicy() & Qt::TabFocus ? QStringList(pressAction()) + own : own;
+  }
+  void doAction(const QString& action) override {
+    if (action != pressAction()) return QAccessibleWidget::doAction(action);
+    QKeyEvent space(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier);
+    QCoreApplication::sendEvent(widget(), &space);
   }
 };
 
