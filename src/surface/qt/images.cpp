@@ -111,7 +111,7 @@ struct Decoder {
 };
 
 // Decodes into the picture's own memory where the decoder can.
-Picture decodedPart(QByteArray& bytes, const QRect& part, const Turn& turn) {
+Picture decodedPart(QByteArray& bytes, const QRect& part, const Turn& turn, bool grey) {
   Decoder decoder(bytes);
   decoder.reader.setClipRect(part);
   if (!turn.none()) {
@@ -119,14 +119,17 @@ Picture decodedPart(QByteArray& bytes, const QRect& part, const Turn& turn) {
     refuseUnless(image.size() == part.size());
     return turn.applied(image.depth() == 32 ? image : image.convertToFormat(QImage::Format_RGB32));
   }
+  if (grey) {  // one byte each
+    const QImage image = decoder.reader.read();
+    refuseUnless(image.size() == part.size());
+    return toPicture(image);
+  }
   auto bitmap = std::make_shared<raster::Bitmap>(part.width(), part.height(), 0xFFFFFFFF);
   uchar* const pixels = reinterpret_cast<uchar*>(bitmap->row(0));
   QImage image(pixels, part.width(), part.height(), qsizetype{4} * part.width(),
                QImage::Format_RGB32);
   refuseUnless(decoder.reader.read(&image) && image.size() == part.size());
-  if (image.constBits() == pixels) return Picture(std::move(bitmap));
-  bitmap.reset();  // shades of grey have come as one byte each: there is room for one picture only
-  return toPicture(image);
+  return image.constBits() == pixels ? Picture(std::move(bitmap)) : toPicture(image);
 }
 
 bool alike(const Picture& a, const Picture& b) {
@@ -158,17 +161,17 @@ Picture decodeJpeg(QByteArray& bytes) {
                             std::min<qint64>(MostPixelsKept, room / bytesPerPixel));
   refuseUnless(room > 0 && rows > 0);
   const QRect part = turn.inFile(whole, QSize(columns, rows));
-  if (facts.ended) return decodedPart(bytes, part, turn);
+  if (facts.ended) return decodedPart(bytes, part, turn, facts.grey);
 
   // Without its end mark a picture is complete if what follows its last byte makes no difference.
   static const QByteArray end("\xFF\xD9", 2);
   while (bytes.endsWith('\xFF')) bytes.chop(1);
   const qsizetype size = bytes.size();
   bytes += end;
-  Picture picture = decodedPart(bytes, part, turn);
+  Picture picture = decodedPart(bytes, part, turn, facts.grey);
   bytes.resize(size);
   bytes += QByteArray(64, '\xB5') + end;
-  refuseUnless(alike(picture, decodedPart(bytes, part, turn)));
+  refuseUnless(alike(picture, decodedPart(bytes, part, turn, facts.grey)));
   return picture;
 }
 
