@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "effects/wide.h"
+#include "surface/raster/versions.h"
 
 namespace effects {
 namespace {

@@ -9,8 +9,8 @@
 #include <cstdint>
 #include <vector>
 
-#include "effects/wide.h"
 #include "surface/numbers.h"
+#include "surface/raster/versions.h"
 
 namespace effects {
 namespace {

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "surface/raster/ink.h"
+#include "surface/raster/versions.h"
 
 namespace raster {
 namespace {
@@ -51,6 +52,7 @@ std::vector<int> sources(const Axis& axis, int first, int last, int available, K
 }
 
 // A row of a picture that is mirrored and nothing else.
+WIDE_VERSIONS
 void mirrorRow(Pixel* __restrict to, const Pixel* __restrict from, int count) {
   for (int i = 0; i < count; ++i) to[i] = from[count - 1 - i];
 }
