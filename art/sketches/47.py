@@ -18,12 +18,12 @@ with p.within("350 398!, 350 306, 366 280, 404 266, 438 280, 452 306, 452 398!")
 p.shape("196 398!, 204 130!, 328 130!, 336 398!")
 p.shape(battlement(190, 84, 152, 52, 4))
 p.note("the king in the tower window")
-window = "480 264!, 480 190, 538 130, 596 190, 596 264!"
+window = "480 264!, 480 160, 500 116, 538 96, 576 116, 596 160, 596 264!"
 p.shape(window)
 with p.within(window):
-    with p.at(544, 206, .62, flip=True):
+    with p.at(546, 194, .8, flip=True):
         p.shape("-72 110!, -58 70, -20 46, 24 46, 54 66, 66 110!")
-        head(p, "34", "short", mouth="", brows=None, ear=False, r=6.6)
+        head(p, "34", "short", mouth="", brows=None, ear=False, r=5.6)
         p.shape("-16 12!, 2 22, 16 16!, 28 22, 42 10!, 42 40, 30 66, 10 68, -10 46")
         p.shape("-50 -22!, -54 -76!, -22 -52!, 0 -86!, 20 -52!, 50 -72!, 48 -14!, 0 -26")
 p.one(arm("522 259, 478 246, 452 206", 28, 22, thumb=1))
