@@ -4,11 +4,13 @@ from people import *
 p = Page("27", "The school bus waits: a boy runs to the step, the dog brings the forgotten lunch box")
 
 p.note("street and roofs")
-p.shape("-10 150!, 40 96!, 96 150!, 96 380!, -10 380!")
+p.shape("62 162!, 160 172!, 160 430!, 62 430!")
+p.shape("14 92!, 110 106!, 170 184!, 62 164!")
+p.shape("-40 430!, -40 160!, 14 92!, 62 162!, 62 430!")
 p.shape("-10 400!, 640 372!, 640 560!, -10 560!")
 
 p.note("bus from the side")
-bus = "150 360!, 140 110, 164 66, 640 48!, 640 370!"
+bus = "150 366!, 140 110, 190 40, 300 -20!, 640 -20!, 640 386!"
 p.shape(bus)
 with p.within(bus):
     p.line("120 294, 640 284", 4)
@@ -36,7 +38,6 @@ p.shape("246 372!, 318 368!, 322 396!, 240 400!")
 with p.within(box(256, 92, 58, 276)):
     with p.at(284, 178, .62):
         p.one("-40 62!, 16 58!, 44 90, 52 310!, -66 310!, -52 100")
-        p.shape("-34 60!, 12 58!, 2 104!", 3)
         p.line("-62 206, 60 200", 4)
         head(p, "side", "bun", mouth="open", brows=None, r=7)
 p.one(arm("272 250, 268 282, 290 302", 24, 21, thumb=-1), join=(272, 246, 18))
