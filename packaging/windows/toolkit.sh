@@ -77,6 +77,7 @@ configure_windows() {
   toolkit=$(need_toolkit)
   flags="-ffile-prefix-map=$source=. -ffile-prefix-map=$folder=. -ffunction-sections -fdata-sections"
   cmake -S "$source" -B "$folder" -G Ninja -DCMAKE_BUILD_TYPE=Release -DCMAKE_UNITY_BUILD=ON "-DCMAKE_CXX_FLAGS=$flags" \
+    -DCMAKE_EXE_LINKER_FLAGS=-static \
     -DCMAKE_TOOLCHAIN_FILE="$top/packaging/windows/toolchain.cmake" "-DKRASPRET_TOOLKIT=$toolkit" "-DCMAKE_PREFIX_PATH=$toolkit" \
     -DQT_HOST_PATH=/usr -DQT_HOST_PATH_CMAKE_DIR="/usr/lib/$(dpkg-architecture -qDEB_HOST_MULTIARCH)/cmake" \
     -DKRASPRET_TOOLKIT_DUTCH=/usr/share/qt6/translations/qtbase_nl.qm "$@"
