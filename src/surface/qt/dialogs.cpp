@@ -270,7 +270,7 @@ bool errorReportBeforeLoss(const std::string& text) {
 static QImage held(std::shared_ptr<const raster::Bitmap> bitmap) {
   using Keeper = std::shared_ptr<const raster::Bitmap>;
   const QImage image = wrapped(*bitmap);
-  if (image.isNull()) return image;  // of no size: it would not let go of what it is given to keep
+  if (image.isNull()) return {};  // of no size: it would not let go of what it is given to keep
   return QImage(
       image.constBits(), image.width(), image.height(), image.bytesPerLine(), image.format(),
       [](void* kept) { delete static_cast<Keeper*>(kept); }, new Keeper(std::move(bitmap)));
