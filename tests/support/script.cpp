@@ -53,6 +53,16 @@ void settle() {
   QCoreApplication::processEvents();
 }
 
+// A button that a test pressed and left down would be held in the next test too. The window that it
+// was pressed in is gone, so this one gets the release, and nobody hears of it.
+void releaseHeldButtons() {
+  const Qt::MouseButtons held = QGuiApplication::mouseButtons() | QTestPrivate::qtestMouseButtons;
+  QWindow nowhere;
+  nowhere.resize(2, 2);
+  for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton})
+    if (held & button) QTest::mouseRelease(&nowhere, button);
+}
+
 }  // namespace
 
 QWidget* widgetOf(Control& control) {
@@ -75,6 +85,7 @@ Stage::Stage() {
 Stage::~Stage() {
   FormRegistry::instance().clear();
   settle();
+  releaseHeldButtons();
   if (errorReport_) ADD_FAILURE() << "the program ended with an error report: " << *errorReport_;
   if (!messages_.empty() || !inputs_.empty() || !files_.empty() || !colors_.empty() ||
       !printers_.empty())
