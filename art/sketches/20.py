@@ -1,18 +1,17 @@
 from hand import *
 from beasts import *
 
-p = Page("20", "A kangaroo leaps over the sleeping koala; her joey leans out of the pouch and reaches for its leaf")
+p = Page("20", "A kangaroo stops by the sleeping koala; her joey leans out of the pouch and reaches for its leaf")
 
 p.note("rocks far away, plain")
-p.shape("330 300!, 360 262, 372 206!, 410 196, 470 204!, 486 250, 520 300!")
-p.shape("420 300!, 440 240!, 500 226, 520 240!, 540 300!")
+p.shape("-10 290!, 20 232, 36 186!, 90 176, 150 182!, 166 230, 196 290!")
+p.lines("70 200, 66 232", "112 204, 118 240")
 p.shape("-10 270, 200 266, 420 278, 640 256!, 640 560!, -10 560!")
 p.shape("-10 420, 170 396, 390 420, 640 392!, 640 560!, -10 560!")
 
 p.note("kangaroo in the air: tail, far leg, far arm")
 with p.at(262, 274, .93, -16):
-    p.one(limb("10 116, 60 140, 96 120", 50, 34, 26), limb("96 118, 150 150", 28, 22))
-    p.one(limb("64 -40, 112 -20, 140 -48", 34, 26, 22), oval(146, -56, 17, 15))
+    p.one(limb("20 150, 100 184, 148 168", 40, 34, 26))
     p.note("body with tail, neck and head in one outline")
     p.one("-104 70, -60 -2, 0 -50, 50 -92, 70 -140, 96 -160, 116 -132, 110 -86, 96 -40, 96 20, 70 80, 20 120, -50 134, -96 116",
           limb("-76 80, -150 110, -210 80, -250 96", 76, 44, 26, 12), oval(118, -150, 40, 34), oval(156, -138, 26, 20))
@@ -22,7 +21,7 @@ with p.at(262, 274, .93, -16):
     p.eye(130, -156, 6)
     p.lines("118 -172, 128 -177, 138 -172", "162 -122, 152 -120, 142 -126")
     p.note("joey")
-    p.one(limb("76 20, 110 50, 126 84", 26, 22, 19), oval(130, 92, 14, 15))
+    p.one(limb("80 30, 116 54, 136 56", 28, 24, 20), oval(143, 57, 14, 13))
     p.shape("72 -36, 58 -64, 64 -90!, 78 -74, 88 -42")
     p.shape("92 -42, 96 -78, 118 -96!, 122 -68, 110 -36")
     p.one(oval(86, -10, 35, 32), oval(113, 0, 19, 15))
@@ -44,11 +43,11 @@ for x, y, t in ((470, 40, 60), (492, 96, 100), (440, 84, 66)):
 p.line("540 60, 500 44, 488 48", 4)
 
 p.note("koala asleep in the fork, its leaf in its paw")
-with p.at(434, 300, .9, -50):
+with p.at(444, 296, .95, -52):
     p.shape("0 40!, -18 12, -16 -16, 0 -44!, 16 -16, 18 12")
     p.line("0 24, 0 -20")
-with p.at(518, 344):
-    p.line("-40 4, -66 -10, -80 -20", 4)
+with p.at(536, 336):
+    p.line("-40 4, -58 -14", 4)
     p.one("-36 -10, 10 -30, 44 -4, 50 40, 30 72, -20 76, -48 44")
     p.one(limb("-10 50, -40 44, -56 64", 44, 32, 28), oval(-58, 68, 21, 17), join=(-4, 50, 20))
     p.one(limb("20 6, 4 30, -34 6", 36, 28, 24), oval(-40, 2, 16, 15), join=(24, 2, 18))
