@@ -1,95 +1,94 @@
 from hand import *
+from limbs import palm, sleeve
 from people import *
 
-p = Page("21", "The fire brigade rescues a cat: it pats the fireman's helmet from its branch; a friend waves from the window, the old lady waits with a bowl of milk")
+p = Page("21", "The fire brigade rescues a cat: it pats the fireman's helmet from its branch; the old lady waits below with a bowl of milk")
 
 p.note("house seen at its corner, a second cat at the window; hedge, street")
-p.shape("128 150!, 246 166!, 246 420!, 128 420!")
-p.shape("74 60!, 190 84!, 262 176!, 128 156!")
+p.shape("128 150!, 236 164!, 236 420!, 128 420!")
+p.shape("74 60!, 182 82!, 250 174!, 128 156!")
 p.shape("20 420!, 20 148!, 74 60!, 128 150!, 128 420!")
-p.shape("40 160!, 108 160!, 108 236!, 40 236!")
-with p.at(74, 214, 1):
-    p.one(oval(0, 0, 24, 21, 0), "-22 -6!, -24 -34!, -4 -18!", "4 -18!, 24 -34!, 22 -6!")
+p.shape(box(40, 160, 68, 76))
+with p.at(74, 214):
+    p.one(oval(0, 0, 24, 21), "-22 -6!, -24 -34!, -4 -18!", "4 -18!, 24 -34!, 22 -6!")
     p.eye(-5, -4, 3.6)
     p.eye(11, -4, 3.6)
-    p.lines("-3 8, 3 12, 9 8")
-p.shape(scallops("276 440, 282 350, 330 310, 440 324, 640 320, 640 440", 13, .28))
-p.shape("-10 430!, 200 400!, 640 420!, 640 560!, -10 560!")
+    p.line("-3 8, 3 12, 9 8")
+p.shape("-10 430!, 200 404!, 640 420!, 640 560!, -10 560!")
 
 p.note("tree with its branch")
-p.shape("640 500!, 490 500!, 540 470, 550 400, 568 330, 572 250, 568 196!, 640 196!")
-p.line("606 268, 602 330")
-p.shape(scallops("420 -30, 414 20, 440 80, 450 170, 500 224, 570 214, 640 232, 660 -30", 11, .32))
-p.shape(limb("670 200, 560 180, 488 174", 58, 38, 28))
+p.shape("640 500!, 520 500!, 552 476, 560 420, 574 330, 576 250, 568 190!, 640 190!")
+p.shape(scallops("424 -30, 418 20, 440 60, 452 96, 500 124, 560 112, 640 122, 660 -30", 9, .34))
+p.shape(limb("670 206, 560 196, 470 190", 60, 40, 26))
 
-p.note("ladder, the engine's side and roof before it")
-with p.at(264, 420, 1, -53):
-    p.shape("60 -28!, 302 -28!, 302 28!, 60 28!")
-    for x in (144, 196, 248):
-        p.line(f"{x} -28, {x} 28", 4)
-p.shape("206 352!, 236 318!, 412 324!, 392 358!")
-p.shape("206 352!, 392 358!, 392 462!, 206 482!")
-p.shape("226 384!, 276 385!, 276 444!, 226 450!")
-p.line("242 416, 256 415")
+p.note("ladder from the engine to the branch")
+with p.at(322, 372, 1, -55):
+    p.shape("0 -26!, 262 -26!, 262 26!, 0 26!")
+    for x in (112, 172, 226):
+        p.line(f"{x} -26, {x} 26", 4)
 
 p.note("cat on the branch pats the helmet")
-with p.at(498, 168, 1.12):
-    p.one(limb("26 -12, 66 -8, 74 32, 54 60", 19, 17, 15))
-    p.one("-34 -4, -30 -46, -4 -66, 26 -44, 38 -4, 20 6, -20 6", limb("-16 -46, -48 -48, -74 -66", 26, 19, 20),
-          oval(-6, -84, 37, 31, 6), "-42 -88!, -44 -132!, -10 -110!", "-4 -112!, 28 -134!, 32 -84!")
-    p.line("-6 2, 4 -14, -2 -30")
-    p.eye(-26, -86, 4.6)
-    p.eye(2, -84, 4.6)
-    p.shape("-20 -76!, -9 -76!, -15 -69!", 3)
-    p.lines("-22 -67, -15 -61, -7 -67", "26 -42, 12 -34")
+with p.at(506, 178, 1.06):
+    p.one(limb("26 -12, 66 -2, 72 34, 50 56", 19, 17, 15))
+    p.one("-34 -2, -32 -44, -6 -66, 24 -48, 40 -8, 26 6, -24 6", limb("-20 -48, -50 -56, -80 -50", 26, 20, 20),
+          oval(-6, -84, 37, 31, 6), "-42 -88!, -44 -130!, -12 -110!", "-2 -112!, 28 -132!, 31 -84!")
+    p.line("-8 2, 4 -12, -2 -28")
+    p.eye(-28, -84, 4.6, look=(-1, 0))
+    p.eye(-2, -84, 4.6)
+    p.shape("-22 -74!, -11 -74!, -17 -67!", 3)
+    p.lines("-24 -65, -17 -59, -9 -65")
 
-p.note("fireman climbs, three quarters, looks up at the cat")
-with p.at(-52, -8, 1.02):
-    p.one(limb("352 262, 402 270, 396 300", 52, 36))
-    shoe(p, 394, 310, -14, 1.15)
-    p.one(limb("392 194, 438 208, 450 180", 44, 36, flat=True), arm("449 184, 452 172, 454 162", 25, 23, thumb=-1, hand=1.1))
-    p.shape(limb("372 128, 364 172", 30, 30))
-    p.one("336 174, 368 158, 404 168, 412 206, 398 268!, 328 268!, 320 216", limb("350 262, 354 310, 344 340", 58, 40))
-    shoe(p, 344, 350, -2, 1.12)
-    p.line("326 240, 362 250, 405 240", 4)
-    with p.at(378, 108, .9, -14):
-        head(p, "34", "short", eyes="dot", mouth="open", brows=None, r=5.6)
-        p.shape("-46 -26!, -50 -54, -24 -84, 20 -84, 44 -62, 48 -26!, 0 -38")
-        p.shape("-2 -36!, -4 -62!, 10 -70, 26 -60!, 24 -36!, 12 -40", 3)
-        p.shape("-76 12!, -62 -14, -46 -28, 0 -36, 46 -34, 74 -18!, 58 -12, 36 -18, -4 -18, -34 -4, -52 12")
-    p.one(limb("350 190, 352 246, 396 254", 50, 42, 36, flat=True), arm("394 254, 408 250, 418 244", 27, 24, thumb=-1, grip=True), join=(350, 188, 25))
+p.note("engine: roof and side")
+p.shape("206 352!, 236 322!, 420 326!, 400 358!")
+p.shape("206 352!, 400 358!, 400 462!, 206 482!")
+p.line("226 412, 300 408", 4)
+
+p.note("fireman climbs in profile, both feet on rungs, his near hand held out to the cat")
+p.shape(limb("292 236, 282 290, 272 330", 48, 40, 34, flat=True))
+shoe(p, 276, 338, -4, 1.06)
+palm(p, 388, 226, -12, .9, "fist", 1)
+p.shape(limb("316 160, 346 208, 388 224", 40, 34, 27, flat=True))
+p.shape(limb("302 108, 300 140", 36, 36))
+p.one("270 140, 300 130, 330 136, 342 176, 332 240, 304 258, 268 246, 256 196", limb("296 232, 356 236, 366 262", 56, 50, 42), limb("362 246, 362 276, 354 302", 46, 42, 36, flat=True))
+shoe(p, 356, 306, -8, 1.1)
+p.line("260 222, 290 230, 318 226", 4)
+with p.at(320, 84, .8, -20):
+    head(p, "34", "short", mouth="open", brows=None, r=5.2)
+    p.shape("-50 -20!, -52 -54, -26 -84, 18 -84, 44 -62, 48 -26!, 0 -36")
+    p.shape("-80 14!, -66 -14, -46 -28, 0 -36, 46 -34, 76 -18!, 58 -12, 36 -18, -4 -18, -34 -4, -54 12")
+palm(p, 384, 132, -30, 1.05, "open", 1)
+sleeve(p, "290 164, 326 184, 388 132", 50, 42, 30)
 
 p.note("engine's cab at its corner, front with the driver")
 p.shape("-10 292!, 12 274!, 176 280!, 208 304!, 104 300!")
 p.shape("104 300!, 208 304!, 208 484!, 104 500!")
 p.shape("122 316!, 192 318!, 192 370!, 122 374!")
-p.line("104 390!, 208 386!", 3)
-p.line("176 404, 190 403", 4)
+p.line("166 404, 184 403", 4)
 p.shape("-20 294!, 104 300!, 104 502!, -20 480!")
-p.shape("-20 312!, 90 316!, 90 388!, -20 382!")
-with p.within("-20 312!, 90 316!, 90 388!, -20 382!"):
-    with p.at(26, 362, .68, 0):
-        head(p, "34", "", eyes="dot", mouth="smile", brows=None, r=7, ear=False)
+window = "-20 312!, 90 316!, 90 388!, -20 382!"
+p.shape(window)
+with p.within(window):
+    with p.at(34, 362, .68):
+        head(p, "34", "", mouth="smile", brows=None, r=7, ear=False)
         p.shape("-54 -14!, -48 -50, 0 -66, 42 -46, 54 -16!, 0 -24")
+p.put(f'<path fill="none" d="{p.path(window)}"/>')
 p.shape("52 278!, 52 256, 64 248, 88 248, 100 258, 100 280!, 76 286")
-p.shape(oval(66, 430, 20, 22))
-p.shape("-20 456!, 110 474!, 110 506!, -20 490!")
-p.shape(oval(160, 492, 33, 40))
-p.shape(oval(162, 492, 15, 19))
-p.shape(oval(312, 468, 29, 36))
-p.shape(oval(314, 468, 13, 17))
+p.shape(oval(62, 432, 20, 22))
+p.line("24 464, 84 474", 4)
+for x, y, rx, ry in ((160, 488, 33, 38), (322, 468, 29, 36)):
+    p.shape(oval(x, y, rx, ry))
+    p.shape(oval(x + 2, y, rx * .45, ry * .48))
 
-p.note("old lady with a bowl of milk, one foot before the other")
-with p.at(-66, -64, 1.14):
-    shoe(p, 516, 500, 0, 1, True)
-    shoe(p, 470, 504, 0, 1, True)
-    p.one(limb("492 354, 494 376", 26, 26), "460 372, 494 364, 526 382, 542 440, 556 500!, 500 510, 440 498!, 452 440")
-    p.line("447 460, 500 472, 549 460", 4)
-    p.shape("462 366!, 494 376, 522 368!, 528 386, 494 396, 456 384")
-    with p.at(488, 322, .84, 16, flip=True):
-        p.shape(oval(-38, -46, 23))
-        head(p, "side", "parting", eyes="white", look=(.9, -.7), mouth="open", brows=None, r=4.4)
-    p.shape("394 408!, 466 408!, 456 430, 430 440, 404 430")
-    p.shape(oval(430, 408, 36, 9), 3)
-    p.one(limb("500 408, 510 448, 470 438", 36, 34, 29, flat=True), arm("472 440, 464 436, 458 430", 24, 22, thumb=1, grip=True), join=(500, 400, 22))
+p.note("old lady in profile, a bowl of milk in both hands")
+shoe(p, 534, 512, 0, 1.1, True)
+shoe(p, 498, 514, 0, 1.1, True)
+p.one(limb("512 330, 516 356", 38, 38), "484 362, 514 344, 546 360, 560 410, 572 500!, 520 510, 462 500!, 476 420, 474 386")
+with p.at(506, 316, .86, 12, flip=True):
+    p.shape(oval(-40, -48, 23))
+    head(p, "side", "parting", eyes="white", look=(.9, -.7), mouth="open", brows=None, r=4.4)
+p.shape("478 352!, 512 362, 550 352!, 560 372, 514 384, 474 370")
+p.shape("388 424!, 462 424!, 450 448, 426 456, 400 448")
+p.shape(oval(425, 424, 37, 9), 3)
+palm(p, 480, 440, 176, .98, "pinch", -1)
+sleeve(p, "526 396, 530 440, 474 440", 44, 42, 32)
 p.save()
