@@ -1,29 +1,29 @@
 from hand import *
+from limbs import palm, sleeve
 from people import *
 
 p = Page("25", "Two children sail past the lighthouse: the girl plays ball with a seal, the keeper waves from his gallery")
 
 p.note("horizon, island with the lighthouse")
 p.line("-10 250, 640 250", 4)
-p.shape("410 282!, 436 250, 500 226, 570 232, 640 250!, 640 330!, 410 330!")
-tower = "476 236!, 494 92!, 562 92!, 584 240!"
+p.shape("430 252!, 458 232, 510 224, 570 230, 640 252!, 640 330!, 430 330!")
+tower = "486 236!, 500 92!, 566 92!, 588 240!"
 p.shape(tower)
 with p.within(tower):
     p.lines("470 142, 600 138", "460 190, 600 186", width=4)
-p.shape("516 238!, 516 214, 530 204, 544 214, 544 240!")
-p.shape("502 74!, 502 46!, 556 46!, 556 74!")
-p.shape("494 48!, 504 22, 528 10, 552 22, 562 48!")
-p.shape("478 74!, 580 74!, 574 94!, 484 94!")
+p.line("526 236, 526 216, 538 206, 550 216, 550 222", 4)
+p.shape("508 74!, 508 46!, 560 46!, 560 74!")
+p.shape("500 48!, 510 22, 534 10, 558 22, 568 48!")
 p.note("the keeper waves")
-with p.at(462, 48, .52, flip=True):
-    p.one(arm("6 62, 62 58, 80 14", 26, 25, thumb=1, hand=1.1))
-    p.one("-30 70!, -30 62, -6 46, 22 56, 26 70!")
+palm(p, 430, 40, -112, .8, "open", -1)
+p.shape(limb("462 80, 440 66, 431 38", 26, 22, 19, flat=True))
+with p.at(466, 48, .54, flip=True):
     head(p, "34", "", mouth="open", brows=None, r=7, ear=False, nose=False)
     p.shape("-54 -8!, -46 -50, 0 -68, 42 -46, 46 -22!, 72 -12, 40 -6, 0 -16")
-p.shape("420 74!, 580 74!, 574 94!, 430 94!")
+p.shape("424 74!, 586 74!, 580 96!, 434 96!")
 
 p.note("gull")
-with p.at(70, 74):
+with p.at(72, 74):
     p.shape("-6 4, -30 -30, -58 -34!, -44 -8, -20 14")
     p.shape("20 0, 40 -38, 72 -44!, 60 -12, 34 14")
     p.one("-34 12!, -10 4, 20 2, 44 6, 50 16, 30 26, 0 26, -50 32!")
@@ -31,47 +31,48 @@ with p.at(70, 74):
     p.eye(36, 13, 3.4)
 
 p.note("sea behind")
-p.shape(scallops("-10 316, 640 316", 11, .2, False) + [(640, 560, True), (-10, 560, True)])
+p.shape(scallops("-10 312, 640 312", 10, .2, False) + [(640, 560, True), (-10, 560, True)])
 
-p.note("boat heels over")
-with p.at(230, 374, 1, -4):
-    p.shape("8 -326!, 90 -210, 150 -126, 212 -44!, 110 -76, 8 -92!")
-    p.shape(heart(48, -206, 22))
-    main = "8 -326!, -60 -262, -130 -176, -172 -112!, -90 -92, 8 -92!"
+p.note("boat heels over: sails, mast")
+with p.at(226, 380, 1, -3):
+    p.shape("10 -330!, 80 -226, 130 -154, 184 -86!, 110 -96, 10 -104!")
+    p.shape(heart(50, -208, 22))
+    main = "6 -330!, -62 -262, -128 -180, -170 -116!, -90 -98, 6 -98!"
     p.shape(main)
     with p.within(main):
-        p.lines("-180 -196, 20 -216", "-180 -140, 20 -154", width=4)
-    p.shape("8 -338!, -26 -358, -64 -342!, -30 -330, 8 -316!")
-    p.shape("-2 10!, 2 -340!, 14 -340!, 18 10!")
-    p.note("boy at the sheet")
-    p.line("-168 -112, -174 -20", 4)
-    with p.at(-112, -18):
-        p.shape(limb("-6 -24, -8 10", 28, 28))
-        p.shape("-44 60!, -44 16, -24 -4!, 12 -6!, 32 14, 38 60!")
-        with p.at(0, -52, .84):
-            head(p, "34", "tuft", eyes="dot", mouth="smile", brows=2)
-        p.one(limb("-22 26, -52 52, -60 20", 38, 32, 27, flat=True), arm("-60 22, -62 10, -64 4", 23, 21, thumb=-1, grip=True), join=(-18, 24, 19))
-    p.note("girl at the bow reaches for the ball")
-    p.one(arm("112 -2, 166 -34, 202 -66", 32, 26, 22, thumb=1))
-    p.shape(limb("96 -66, 88 -34", 28, 28))
-    p.shape("60 30!, 56 -14, 72 -40!, 106 -40!, 128 0, 124 30!")
-    with p.at(106, -104, .88, 8):
-        head(p, "side", "tails", mouth="open", brows=5)
-    p.one(limb("80 -12, 120 20, 160 -4", 40, 34, 29, flat=True), arm("158 -4, 182 -18, 194 -28", 25, 22, thumb=-1), join=(76, -18, 20))
-    p.note("hull")
-    p.shape("-190 0!, -60 18, 90 12, 224 -44!, 196 40, 150 96!, -146 96!, -176 50")
-    p.line("-184 26, -60 42, 90 38, 214 -12", 4)
+        p.lines("-180 -200, 20 -222", "-180 -146, 20 -160", width=4)
+    p.shape("8 -340!, -26 -362, -64 -346!, -30 -332, 8 -318!")
+    p.shape("-2 20!, 0 -342!, 14 -342!, 16 20!")
 
+p.note("girl at the bow, both hands out to the ball")
+palm(p, 396, 292, -22, .95, "open", 1)
+p.shape(limb("318 312, 360 314, 396 292", 30, 28, 23, flat=True))
+p.one(limb("306 280, 304 306", 30, 30), "268 400!, 264 348, 278 308, 306 296, 332 308, 344 350, 346 400!")
+with p.at(318, 256, .84, 4):
+    head(p, "side", "pony", mouth="open", brows=5)
+palm(p, 382, 338, -30, .98, "open", 1)
+sleeve(p, "296 328, 332 360, 384 338", 42, 36, 26)
+
+p.note("boy holds the tiller and looks up at the sail")
+p.one(limb("122 336, 124 356", 32, 32), "84 420!, 86 376, 104 348, 132 346, 156 364, 164 420!")
+with p.at(130, 300, .84, -10):
+    head(p, "34", "tuft", mouth="open", brows=3)
+p.tube("24 344, 92 372", 14)
+palm(p, 76, 378, -140, .92, "fist", -1)
+sleeve(p, "112 374, 106 408, 74 378", 38, 36, 27)
+
+p.note("tiller and hull")
+p.shape("34 382!, 230 406, 330 398, 452 330!, 428 412, 380 470!, 80 470!, 48 430")
+p.line("40 408, 230 430, 330 422, 444 364", 4)
 p.note("seal with the ball")
-with p.at(512, 324, 1, 0):
-    p.shape(oval(-44, -46, 33))
-    p.lines("-66 -70, -46 -44, -52 -14", "-46 -44, -12 -52", width=4)
-with p.at(512, 300):
-    p.one("-40 10, -14 -2, 20 6, 54 44, 84 110, 100 200, -40 200, -40 130, -38 66, -56 40")
-    p.one(limb("0 110, -40 130, -74 116", 34, 28, 18), join=(4, 108, 18))
-    p.spot(-44, 16, 9, 7)
-    p.eye(-6, 26, 6)
-    p.lines("-40 34, -26 42, -12 40", "-6 56, 16 60", "-10 68, 10 76")
+p.shape(oval(462, 262, 34))
+p.lines("436 240, 460 264, 454 296", "460 264, 494 254", width=4)
+with p.at(514, 300):
+    p.one("-42 12, -14 -4, 20 4, 54 42, 84 110, 110 200, -50 200, -44 130, -38 72, -56 42")
+    p.one(limb("4 112, -40 134, -78 116", 36, 30, 18), join=(10, 110, 20))
+    p.spot(-46, 16, 9, 7)
+    p.eye(-8, 26, 6)
+    p.lines("-42 36, -28 44, -14 42", "-2 54, 20 58", "-6 66, 14 74")
 
 p.note("waves in front")
 p.shape(scallops("-10 440, 640 434", 8, .22, False) + [(640, 560, True), (-10, 560, True)])
