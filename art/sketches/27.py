@@ -1,70 +1,68 @@
 from hand import *
+from limbs import palm, sleeve
 from people import *
 
-p = Page("27", "The school bus waits: a boy runs to the step, the dog brings the forgotten lunch box")
+p = Page("27", "The school bus waits with its door open: the driver beckons, a boy runs to the step, the dog brings the forgotten lunch box")
 
-p.note("street and roofs")
-p.shape("62 162!, 160 172!, 160 430!, 62 430!")
-p.shape("14 92!, 110 106!, 170 184!, 62 164!")
-p.shape("-40 430!, -40 160!, 14 92!, 62 162!, 62 430!")
-p.shape("-10 400!, 640 372!, 640 560!, -10 560!")
+p.note("trees behind, street")
+p.shape(scallops("-10 250, -10 130, 40 90, 90 120, 100 300, -10 300", 6, .3))
+p.shape("-10 372!, 640 372!, 640 560!, -10 560!")
 
-p.note("bus from the side")
-bus = "150 366!, 140 110, 190 40, 300 -20!, 640 -20!, 640 386!"
+p.note("bus from the side: roof, body, band")
+bus = "40 372!, 36 260, 52 232, 74 220!, 92 96, 128 56, 180 44!, 660 44!, 660 372!"
 p.shape(bus)
 with p.within(bus):
-    p.line("120 294, 640 284", 4)
+    p.line("20 270, 640 270", 4)
+p.shape(oval(60, 304, 15, 20))
 
-p.note("six windows, a face in each")
+p.note("open door with the driver, step")
+p.shape("112 104!, 200 104!, 200 372!, 112 372!")
+with p.within(box(112, 104, 88, 268)):
+    with p.at(152, 172, .74):
+        head(p, "34", "bald", mouth="open", brows=None, r=6.4)
+        p.shape("-52 -14, -50 -46, -14 -66, 34 -54, 46 -26!, 74 -14, 44 -10, 10 -20, -30 -14")
+    p.one("100 300!, 104 240, 124 214, 160 212, 182 232, 196 340!, 196 380!, 90 380!")
+p.put(f'<path fill="none" d="{p.path(box(112, 104, 88, 268))}"/>')
+palm(p, 214, 224, -58, .95, "open", -1)
+sleeve(p, "150 242, 194 270, 216 222", 42, 36, 26)
+p.shape("104 366!, 208 366!, 216 390!, 96 390!")
+
+p.note("windows with faces")
 faces = (("34", "bob", "smile", "dot"), ("side", "curly", "open", "dot"), ("34", "tuft", "open", "happy"))
-p.shape("154 132, 172 96, 236 94!, 236 212!, 154 214!")
-with p.within("154 132, 172 96, 236 94!, 236 212!, 154 214!"):
-    with p.at(196, 176, .66, flip=True):
-        head(p, "34", "bald", mouth="smile", brows=None, r=7)
-        p.shape("-46 -18, -42 -46, -8 -64, 34 -52, 44 -26!, 66 -16, 40 -14, 10 -22, -30 -18")
 for k, (view, hair, mouth, eyes) in enumerate(faces):
-    x = 366 + k * 92
-    pane = box(x - 38, 100 - k * 4, 76, 98)
+    x = 302 + k * 122
+    pane = box(x - 50, 108, 100, 104)
     p.shape(pane)
     with p.within(pane):
-        with p.at(x, 170 - k * 4, .7, flip=k != 1):
+        with p.at(x - 4, 178, .8, flip=k != 1):
             head(p, view, hair, mouth=mouth, eyes=eyes, brows=None, r=6.5)
+    p.put(f'<path fill="none" d="{p.path(pane)}"/>')
 
-p.note("open door, step")
-p.shape("254 90!, 316 88!, 316 378!, 254 380!")
-p.shape("316 88!, 342 76!, 342 392!, 316 378!")
-p.line("329 130, 329 230", 4)
-p.shape("246 372!, 318 368!, 322 396!, 240 400!")
-with p.within(box(256, 92, 58, 276)):
-    with p.at(284, 178, .62):
-        p.one("-40 62!, 16 58!, 44 90, 52 310!, -66 310!, -52 100")
-        p.line("-62 206, 60 200", 4)
-        head(p, "side", "bun", mouth="open", brows=None, r=7)
-p.one(arm("272 250, 268 282, 290 302", 24, 21, thumb=-1), join=(272, 246, 18))
 p.note("two whole wheels")
-for x, y in ((206, 380), (510, 366)):
-    p.shape(oval(x, y, 52))
-    p.shape(oval(x, y, 24))
+for x, y in ((262, 372), (552, 372)):
+    p.shape(oval(x, y, 48))
+    p.shape(oval(x, y, 22))
 
 p.note("boy runs to the step")
-with p.at(386, 372, .84, flip=True):
-    p.one(arm("-4 0, -50 30, -86 12", 30, 24, thumb=1))
-    p.shape(limb("-26 78, -84 92, -124 66", 44, 30, flat=True))
-    with p.at(-134, 60, 1, 100):
-        shoe(p, 0, 0, 0, 1.1)
-    p.shape("-30 -20, -84 -30, -94 10, -84 52, -30 58")
-    p.one("-24 -26, 26 -22, 38 20, 30 66, 6 84, -34 72, -50 20")
-    p.shape("-42 62!, 0 72, 36 58!, 46 86, 40 104!, -8 112, -44 100, -52 84")
-    p.shape(limb("16 98, 56 112, 60 142", 36, 28, flat=True))
-    shoe(p, 62, 150, -6, 1.1)
-    with p.at(12, -68, .98, 6):
+with p.at(446, 344, .94, flip=True):
+    palm(p, 74, 26, 20, 1, "open", 1)
+    p.shape(limb("20 0, 48 20, 76 26", 36, 32, 26, flat=True))
+    p.shape(limb("-16 96, -62 122, -108 98", 48, 38, 30, flat=True))
+    with p.at(-112, 90, 1.1, 84):
+        shoe(p, 0, 0)
+    p.shape("-16 -20!, -54 -30, -78 -4, -72 44, -34 62!")
+    p.one("-22 -14, 10 -24, 36 -8, 40 34, 28 78!, -40 74!, -42 24")
+    p.one("-41 70!, -6 78, 29 74!, 32 100, 4 116, -36 108", limb("0 94, 66 92, 70 146", 50, 46, 32, flat=True))
+    shoe(p, 68, 152, -6, 1.1)
+    with p.at(20, -66, .9, 10):
         head(p, "34", "short", mouth="open", brows=5)
-    p.one(limb("-2 0, 36 20, 52 -2", 38, 34, 30, flat=True), arm("48 4, 62 -20, 66 -36", 26, 24, thumb=1), join=(-4, -2, 19))
+    palm(p, 2, 56, -8, 1, "fist", 1)
+    sleeve(p, "0 8, -34 46, 6 54", 40, 36, 28)
 
 p.note("dog with the lunch box")
-with p.at(136, 462, .88, flip=True):
+with p.at(124, 460, .9, flip=True):
     p.one(limb("70 -2, 96 -20, 98 -50", 20, 16, 14))
-    p.one(limb("56 20, 84 44, 74 66", 30, 20), limb("-16 22, -10 50, -24 66", 28, 20))
+    p.one(limb("-16 22, -10 50, -24 66", 28, 20))
     p.one("-34 -34, 10 -26, 56 -20, 78 0, 70 28, 30 34, -20 34, -40 10", limb("62 16, 66 44, 96 62", 34, 22), limb("-24 18, -40 44, -58 58", 30, 20))
     p.tube("-112 18, -104 -24, -70 -24, -62 18", 13)
     p.shape("-126 14!, -48 14!, -48 58!, -126 58!")
