@@ -1,69 +1,83 @@
 from hand import *
+from hands import hand
 from people import *
 
 p = Page("42", "Football: the keeper flies, the ball passes just beyond the fingers; the dog is the other goal post")
 
 p.note("field and trees, the net behind")
-p.shape(scallops("-30 260, 20 196, 90 200, 150 180, 230 210, 250 260", 9, .4))
+p.shape(scallops("-30 260, 20 206, 100 196, 180 190, 240 210, 270 260", 5, .4))
 p.shape("-10 250!, 200 236, 420 250, 640 236!, 640 560!, -10 560!")
-p.shape("300 60!, 596 24!, 640 60!, 640 330!, 320 340!")
-with p.within("300 60!, 596 24!, 640 60!, 640 330!, 320 340!"):
-    p.lines("380 0, 390 400", "468 0, 476 400", "556 0, 560 400", "260 140, 660 110", "260 230, 660 212")
-p.shape("300 46!, 318 46!, 330 384!, 308 384!")
-p.shape("300 46!, 640 10!, 640 26!, 300 64!")
+net = "320 40!, 640 8!, 640 330!, 336 346!"
+p.shape(net)
+with p.within(net):
+    p.lines("484 0, 492 400", "260 150, 660 120")
+p.shape("314 46!, 332 46!, 344 388!, 322 388!")
+p.shape("314 40!, 640 6!, 640 26!, 314 62!")
 
 p.note("chalk line on the grass")
-p.shape("-10 470!, 540 426!, 540 444!, -10 490!")
+p.line("-10 488, 560 436", 4)
 
-p.note("kicker, smaller, weight on one leg")
-with p.at(112, 286, .74):
-    p.one(arm("-20 40, -60 58, -92 36", 30, 24, thumb=1))
-    p.shape(limb("-16 150, -30 200, -24 250", 40, 32, flat=True))
-    p.shape("-44 244!, -44 274, -4 274!, 16 274, 14 258, -6 244!")
-    p.shape(limb("20 150, 84 172, 138 150", 44, 32, flat=True))
-    with p.at(146, 148, 1, -46):
+p.note("kicker, smaller, weight on one leg, the other still in the air")
+with p.at(104, 290, .8):
+    hand(p, -70, 92, 150, "open", 1, .9)
+    p.shape(limb("-18 34, -44 66, -72 92", 38, 34, 32, flat=True))
+    p.shape(limb("-6 128, -26 184, -20 236", 46, 38, 32, flat=True))
+    with p.within(limb("-6 128, -26 184, -20 236", 46, 38, 32, flat=True)):
+        p.line("-60 206, 20 198", 4)
+    shoe(p, -20, 244, 0, 1.15)
+    p.shape(limb("10 132, 76 146, 132 124", 50, 40, 32, flat=True))
+    with p.within(limb("10 132, 76 146, 132 124", 50, 40, 32, flat=True)):
+        p.line("92 110, 108 170", 4)
+    with p.at(138, 120, 1, -62):
         shoe(p, 0, 0, 0, 1.15)
-    p.one("-30 22, 20 18, 34 60, 34 118!, 20 130, -38 130!, -44 80, -42 40")
-    with p.within("-30 22, 20 18, 34 60, 34 118!, 20 130, -38 130!, -44 80, -42 40"):
-        p.lines("-60 64, 60 58", "-60 92, 60 88")
-    p.shape("-40 120!, 36 114!, 60 140, 52 182!, 12 178, -2 166!, -12 188, -50 184!, -46 150")
-    p.shape(limb("-6 10, -6 30", 26, 26))
-    with p.at(2, -28, .98, -20):
-        head(p, "side", "curly", mouth="o", brows=6)
-    p.one(limb("-16 40, 14 66, 34 74", 36, 32, flat=True), arm("34 74, 58 74, 70 58", 26, 24, thumb=1), join=(-18, 38, 20))
+    shirt = "-36 26!, -14 18, 12 20!, 30 40, 28 80, 26 114!, -10 120, -46 112!, -44 70"
+    p.shape(limb("-8 2, -10 28", 30, 34, flat=True))
+    p.shape(shirt)
+    p.shape("-46 110!, -10 120, 28 112!, 58 112, 70 126!, 62 168!, 30 170, 8 160!, 6 176!, -48 172!, -50 140")
+    with p.at(6, -42, .98, -24):
+        head(p, "side", "curly", mouth="open", brows=8)
+    hand(p, 72, 46, -48, "open", -1, .9)
+    p.one(limb("-14 42, 14 76, 74 46", 40, 38, 32, flat=True), join=(-16, 40, 21))
 
 p.note("keeper stretched out in the air, head between the arms")
-with p.at(384, 222, 1, 22):
-    p.one(limb("92 0, 146 -26, 190 -48", 50, 40, 30, flat=True))
-    with p.at(198, -54, 1, -32):
-        shoe(p, 0, 0, 0, 1.2)
-    p.one(arm("-76 -20, -126 -44, -168 -48", 40, 32, 28, thumb=1))
-    p.one("-96 -34, -40 -40, 30 -32, 70 -24!, 78 40!, 30 44, -40 42, -92 32")
-    with p.within("-96 -34, -40 -40, 30 -32, 70 -24!, 78 40!, 30 44, -40 42, -92 32"):
-        p.lines("-30 -60, -24 60", "26 -60, 32 60", width=4)
-    p.one("66 -28!, 112 -32, 140 -20!, 150 18!, 146 44, 110 54, 78 46!, 70 10")
-    p.line("100 8, 124 12, 148 16")
-    p.one(limb("126 24, 176 20, 220 0", 46, 38, 30, flat=True), join=(118, 22, 24))
-    with p.at(230, -2, 1, -20):
-        shoe(p, 0, 0, 10, 1.2)
-    with p.at(-112, -40, .92, -14, flip=True):
-        head(p, "side", "tuft", mouth="o", brows=5)
-    p.one(limb("-66 26, -120 46, -160 36", 52, 44, 38, flat=True), join=(-62, 24, 26))
-    p.one("-154 18!, -158 56!, -184 58, -216 52, -222 36, -206 22, -196 6, -178 4, -172 16")
+with p.at(20, 22, .9):
+    hand(p, 238, 112, 202, "glove", 1, .94)
+    p.shape(limb("340 168, 296 140, 236 112", 36, 40, 36, flat=True))
+    p.one(limb("510 240, 574 232, 618 204", 54, 44, 36, flat=True))
+    with p.within(limb("510 240, 574 232, 618 204", 54, 44, 36, flat=True)):
+        p.line("578 190, 600 260", 4)
+    with p.at(624, 200, 1, -64):
+        shoe(p, 0, 0, 0, 1.15)
+    p.shape(limb("500 266, 570 290, 626 300", 54, 44, 36, flat=True))
+    with p.within(limb("500 266, 570 290, 626 300", 54, 44, 36, flat=True)):
+        p.line("596 260, 586 330", 4)
+    with p.at(632, 302, 1, -84):
+        shoe(p, 0, 0, 0, 1.15)
+    shirt = "354 176!, 386 168, 430 182, 484 212!, 458 288!, 404 272, 352 246, 344 206"
+    p.shape(shirt)
+    with p.within(shirt):
+        p.lines("420 160, 398 290", "458 180, 430 300", width=4)
+    p.shape("484 210!, 520 218, 556 222!, 560 272!, 552 310!, 500 302, 456 290!, 468 252")
+    p.line("560 270, 534 266", 4)
+    p.shape("376 200, 346 186, 330 172, 318 196, 340 218, 362 226")
+    with p.at(304, 152, .96, -2, flip=True):
+        head(p, "side", "tuft", mouth="flat", brows=8)
+    hand(p, 226, 190, 194, "glove", 1, .98)
+    p.one(limb("384 226, 310 230, 224 190", 54, 50, 40, flat=True), join=(390, 226, 30))
+
 p.note("ball just beyond the fingers")
-with p.at(124, 112):
-    p.shape(oval(0, 0, 38))
-    with p.within(oval(0, 0, 38)):
-        p.shape(star(0, 0, 17, .81))
+with p.at(108, 92):
+    p.shape(oval(0, 0, 40))
+    with p.within(oval(0, 0, 40)):
+        p.shape(star(0, 0, 18, .81))
         for k in range(5):
             with p.at(0, 0, 1, 72 * k):
-                p.line("0 -17, 0 -50")
+                p.line("0 -18, 0 -50")
 
 p.note("the dog is the other goal post")
-with p.at(552, 420, .94):
-    p.shape("40 74, 86 70, 94 40, 82 36, 70 54, 40 50")
-    p.one("-40 112, -50 70, -36 20, 0 4, 36 20, 50 70, 44 112", limb("-36 92, -36 112, -46 122", 34, 28), limb("30 92, 30 112, 22 122", 34, 28))
-    p.line("-8 60, -8 96")
+with p.at(540, 426, .94):
+    p.one("-44 120, -52 70, -36 20, 0 4, 36 20, 52 70, 48 120", limb("-24 70, -26 116", 34, 30), limb("20 70, 20 116", 34, 30), oval(-32, 106, 22, 13), oval(16, 106, 22, 13))
+    p.line("-5 64, -6 96")
     p.shape("-26 -74!, -64 -66, -70 -20, -46 -4, -34 -30")
     p.one("-34 -60, 0 -78, 36 -62, 46 -24, 30 6, 0 16, -50 6, -66 -18, -48 -34")
     p.shape("26 -74!, 60 -64, 70 -22, 50 -2, 32 -34")
