@@ -1,4 +1,5 @@
 from hand import *
+from hands import hand
 from people import *
 
 p = Page("41", "At the vet: the dog gives its paw to be bandaged; the kitten has rolled itself into the other end")
@@ -11,63 +12,64 @@ p.shape(box(214, -10, 130, 96))
 p.line("279 -10, 279 86", 4)
 p.shape("206 86!, 352 86!, 352 100!, 206 100!")
 
-p.note("the vet, from the right, in profile")
-with p.at(492, 0, flip=True):
-    p.shape(limb("-8 180, -14 224", 30, 30))
-    p.one(limb("14 250, 44 300, 84 296", 54, 40, flat=True))
-    p.shape("-40 214!, 8 208!, 36 236, 48 300, 52 420!, -104 420!, -96 320, -84 244")
-    p.shape("-26 210!, 4 208!, 12 226, 26 262!, -6 250, -22 236")
-    with p.at(0, 146, 1.06, 10):
-        head(p, "side", "bun", mouth="smile", brows=4)
-        p.line("-10 -4, 10 -6", 4)
-        p.shape(oval(24, -4, 15, 14))
-        p.eye(28, -2, 4.6)
-
-p.note("girl behind the dog, chin on its back")
-with p.at(122, 190):
-    p.shape(limb("-2 40, -6 76", 28, 28))
-    p.one("-44 80, -20 66, 24 68, 50 92, 64 240, -78 240", limb("36 86, 70 104, 96 110", 44, 36, flat=True))
-    with p.at(6, 0, 1, 10):
+p.note("girl behind the table, her arm round the dog")
+with p.at(110, 196):
+    p.shape(limb("-4 40, -8 80", 32, 36, flat=True))
+    p.shape("-26 76!, -6 86, 14 74!, 44 92, 66 130, 66 230!, -66 230!, -64 140, -52 94")
+    with p.at(6, 4, 1.04, 12):
         head(p, "34", "tails", eyes="white", look=(1, 1), mouth="frown", brows=9, r=4.4)
 
-p.shape(heart(104, 344, 24))
-
 p.note("the table")
-p.shape("-10 400!, 640 388!, 640 446!, -10 462!")
-p.shape("-10 462!, 640 446!, 640 560!, -10 560!")
+p.shape("-10 404!, 640 392!, 640 450!, -10 466!")
+p.shape("-10 466!, 640 450!, 640 560!, -10 560!")
 
 p.note("dog on the table")
-p.shape("164 410, 130 404, 108 372, 116 350, 134 362, 146 382, 176 388")
-p.one(oval(232, 348, 66, 66), limb("244 330, 276 286, 296 230", 120, 104, 84), limb("226 386, 250 408, 270 412", 44, 30),
-      limb("308 296, 312 350, 316 402", 54, 40, 36), oval(326, 408, 27, 14), oval(262, 412, 27, 13))
-p.line("206 352, 232 334, 258 344, 268 370")
-p.lines("274 384, 280 366, 292 352")
-p.one(oval(306, 176, 60, 54), oval(358, 200, 38, 28), oval(330, 208, 30, 26))
-p.shape("318 128, 344 142, 350 176, 332 190, 312 176, 308 148", 3)
-p.eye(334, 164, 6)
-p.spot(388, 186, 11, 9)
-p.line("388 196, 376 212, 346 214")
-p.lines("322 142, 332 138, 342 142")
-p.shape("286 132!, 256 136, 236 172, 236 218, 258 236, 280 214, 290 172")
+p.shape("180 424, 144 430, 112 410, 104 382, 118 372, 134 390, 156 400, 186 396")
+p.shape(limb("318 320, 336 366, 334 414", 44, 36, 32, flat=True))
+p.shape("318 412!, 318 400, 340 396, 360 402, 364 414, 350 422, 324 422")
+p.one("268 214, 226 262, 180 320, 170 372, 186 408, 222 420, 300 420, 326 352, 346 292, 346 226, 310 210",
+      limb("200 404, 226 412, 252 414", 34, 30), limb("290 300, 298 366, 296 408", 64, 46, 36), oval(306, 414, 27, 14), oval(246, 413, 30, 14))
+p.line("196 346, 232 330, 264 352, 266 392")
+p.one(oval(302, 176, 60, 54), oval(356, 200, 38, 28), oval(328, 208, 30, 26))
+p.shape("314 128, 340 142, 346 176, 328 190, 308 176, 304 148", 3)
+p.eye(330, 164, 6)
+p.spot(386, 186, 11, 9)
+p.line("386 196, 374 212, 344 214")
+p.lines("318 142, 328 138, 338 142")
+p.shape("282 132!, 252 136, 232 172, 232 218, 254 236, 276 214, 286 172")
 
-p.note("the paw in its bandage, which runs through her hand to the kitten")
-p.one(limb("306 300, 352 316, 398 296", 44, 36, 32), oval(400, 292, 19, 17), join=(308, 300, 26))
-p.shape("250 228!, 262 258, 300 270, 336 258!, 342 242!, 300 250, 258 214!")
-p.shape(oval(308, 272, 13))
-p.one("352 292!, 346 330, 352 338!, 392 324!, 396 304, 384 280!")
-p.lines("366 288, 364 332", "378 284, 380 327")
-with p.at(492, 0, flip=True):
-    p.one(arm("84 298, 96 296, 100 292", 28, 24, thumb=1))
-p.tube("374 330, 400 354, 436 350, 424 386, 454 404, 506 414", 20)
-with p.at(492, 0, flip=True):
-    p.one(arm("32 358, 40 356, 46 354", 30, 28, thumb=-1, grip=True))
-    p.one(limb("-32 258, -40 320, -24 350, 30 356", 56, 52, 46, 40, flat=True), join=(-32, 252, 27))
+p.note("the paw, carried by her far hand, with the bandage round it")
+p.one(limb("310 286, 348 306, 396 284", 46, 40, 34), oval(398, 282, 22, 19), join=(308, 286, 25))
+p.shape("254 234!, 264 258, 300 268, 334 256!, 344 240!, 300 250, 260 222!")
+p.shape(oval(304, 268, 13))
+p.lines("418 276, 406 278")
+p.shape("344 280!, 366 270!, 384 264!, 392 304!, 374 316!, 350 326!, 344 304")
+p.line("362 270, 370 318")
 
-p.note("her hand on its back")
-p.one(arm("214 300, 222 302, 230 304", 32, 28, thumb=-1))
+p.note("the vet, in profile: the far arm reaches out to carry the paw")
+with p.at(500, 0, flip=True):
+    hand(p, 82, 316, -6, "flat", -1, 1.06, lines=False)
+    p.shape(limb("24 262, 48 310, 84 315", 50, 42, 34, flat=True))
+    p.shape(limb("-6 176, -14 226", 34, 38, flat=True))
+    p.shape("-46 228, -14 212!, 10 212!, 36 236, 42 290, 50 420!, -96 420!, -88 320, -74 250")
+    p.shape("-14 210!, 10 210!, 20 232, 40 262!, 10 256, -10 236")
+    with p.at(0, 150, 1.06, 12):
+        head(p, "side", "bun", mouth="smile", brows=4)
+        p.line("-18 -7, 12 -6", 4)
+        p.shape(oval(25, -4, 15, 14))
+        p.eye(28, -2, 4.6)
+
+p.note("the bandage runs through her near hand to the kitten")
+p.tube("362 314, 368 346, 412 352, 416 384, 436 408, 470 402, 510 420", 21)
+hand(p, 434, 356, 186, "fist", 1, 1)
+p.one(limb("522 258, 534 320, 506 354, 432 354", 58, 54, 46, 38, flat=True), join=(522, 252, 29))
+
+p.note("the girl's arm and hand on the dog's back")
+hand(p, 222, 300, 14, "open", -1, 1.06)
+p.one(limb("140 296, 176 316, 224 300", 50, 44, 36, flat=True), join=(138, 294, 25))
 
 p.note("the kitten in its basket, rolled in bandage")
-with p.at(538, 440):
+with p.at(536, 446):
     p.one(oval(0, -14, 58, 46), "-56 -26!, -58 -80!, -20 -56!", "56 -26!, 58 -80!, 20 -56!")
     p.shape("-54 -34!, -30 -46, 10 -50, 48 -40!, 54 -22!, 14 -32, -28 -28, -58 -14!")
     p.eye(-22, -8, 5, "white", (-.6, -1))
