@@ -1,31 +1,32 @@
 from hand import *
+from hands import hand
 from people import *
 
 p = Page("44", "A birthday: he blows, the candles bend, and the dog has already got at the cake")
 
-p.note("wall, bunting")
-p.line("-10 392, 640 392", 4)
-bunting(p, "-10 60, 130 92, 300 50, 376 -30", 4, 46)
+p.note("bunting")
+bunting(p, "176 -30, 236 40, 340 50, 436 -30", 3, 50)
 
-p.note("balloons on a chair's back")
-p.line("566 150, 560 220, 570 330", 4)
+p.note("the balloon")
+p.line("566 160, 562 200, 570 250", 4)
 p.shape("564 150!, 550 170!, 582 168!")
 p.shape("564 152, 516 104, 522 44, 564 24, 606 50, 608 106")
 p.line("538 76, 546 56, 560 48")
 
-p.note("girl behind the cake, leaning over")
-with p.at(468, 178):
-    p.shape(limb("2 36, 8 80", 28, 28))
-    p.one("-34 88, 4 68, 46 72, 74 104, 78 280, -60 280")
+p.note("girl behind the cake, the balloon's string in her hand")
+with p.at(462, 182):
+    p.shape(limb("4 36, 6 84", 34, 36, flat=True))
+    p.shape("-34 92, -10 78!, 8 86, 26 76!, 58 82, 80 110, 80 290!, -64 290!, -58 130")
     with p.at(0, 0, .98, 8, flip=True):
-        head(p, "34", "tuft", eyes="happy", mouth="open", brows=None)
+        head(p, "34", "tails", eyes="happy", mouth="open", brows=None)
         p.shape("-34 -42!, 0 -132!, 30 -46!, 0 -36")
-        p.line("-20 -74, 0 -70, 20 -78")
         p.shape(oval(0, -130, 12))
+hand(p, 564, 262, -88, "fist", -1, .9)
+p.one(limb("524 296, 584 322, 564 264", 38, 42, 34, flat=True), join=[(520, 300, 26), (540, 310, 20)])
 
-p.note("the table")
-p.shape("-10 420!, 640 420!, 640 560!, -10 560!")
-p.line("-10 476, 44 500, 100 476!, 156 500, 214 476!, 270 500, 326 476!, 382 500, 438 476!, 494 500, 550 476!, 600 500, 650 476", 4)
+p.note("the table, seen a little from above")
+p.shape("-10 408!, 640 408!, 640 560!, -10 560!")
+p.line("-10 482, 60 512, 130 482!, 200 512, 270 482!, 340 512, 410 482!, 480 512, 550 482!, 620 512, 650 500", 4)
 
 p.note("cake")
 p.shape(oval(356, 434, 146, 24))
@@ -41,33 +42,31 @@ for i, (x, y) in enumerate(((308, 272), (344, 280), (380, 278))):
     p.shape(f"{x - 2} {y - 44}!, {x - 2} {y - 62}, {x + 28} {y - 78}!, {x + 16} {y - 54}, {x + 4} {y - 44}!")
 
 p.note("birthday boy, near, in profile, cheeks full of air")
-with p.at(128, 240):
-    p.shape(limb("-22 36, -34 84", 36, 36))
-    p.one("-76 108, -40 72, 8 78, 36 122, 30 190, 6 360, -150 360, -124 190")
-    with p.within("-76 108, -40 72, 8 78, 36 122, 30 190, 6 360, -150 360, -124 190"):
-        p.lines("-140 176, 60 140", "-140 266, 60 266", width=4)
-    with p.at(0, 0, 1.3, 12):
+p.shape("86 280!, 74 350!, 140 350!, 134 290!")
+p.shape("-10 384, 26 340, 60 322!, 96 338, 138 322!, 158 372, 156 440, 140 560!, -20 560!")
+p.shape("54 312!, 96 328, 142 310!, 148 332, 98 350, 46 336")
+with p.at(126, 240):
+    with p.at(0, 0, 1.3, 14):
         head(p, "side", "short", eyes="closed", mouth="", brows=None, r=5)
         p.shape("42 20, 52 18, 60 22, 58 28, 46 29", 3)
         p.line("22 20, 16 27, 22 35")
         p.shape("-42 -34!, -16 -128!, 32 -48!, -8 -44")
         p.line("-34 -66, -12 -66, 12 -80")
         p.shape(scallops(oval(-16, -126, 13), 7, .4))
-    p.one(arm("34 216, 48 210, 58 204", 36, 32, thumb=-1))
-    p.one(limb("-34 138, -54 196, -20 228, 42 212", 58, 54, 48, 42, flat=True), join=(-34, 132, 29))
+hand(p, 196, 450, 4, "flat", -1, 1.2)
+p.one(limb("84 392, 72 458, 112 482, 198 450", 72, 66, 56, 42, flat=True), join=(84, 384, 38))
 p.lines("236 262, 262 256", "238 284, 266 288")
 
 p.note("dog at the right, paws on the table, tongue out")
-with p.at(548, 370):
-    p.one("-20 30, 40 20, 90 60, 90 200, -20 200, -30 100")
+with p.at(552, 366):
+    p.one("-14 30, -34 70, -40 110, -40 200, 90 200, 90 20, 40 20")
     p.one(oval(10, -20, 50, 46), oval(-36, 2, 34, 24))
-    p.shape("-52 20!, -70 40, -60 52, -44 44, -36 24!", 3)
+    p.shape("-56 20!, -76 40, -66 54, -46 46, -36 22!", 3)
     p.line("-62 12, -50 22, -28 22, -8 10")
     p.spot(-66, -8, 11, 10)
     p.eye(-12, -30, 6)
-    p.line("-20 -52, -12 -56, -4 -54")
     p.shape("22 -62!, 52 -54, 66 -14, 58 26, 36 34, 24 4")
-    p.shape("-14 36!, 22 46, 58 32!, 62 48!, 24 62, -14 52!")
-    p.shape(oval(18, 66, 12))
-    p.one(limb("10 90, -20 88, -46 72", 40, 34, 32), oval(-48, 68, 20, 16), join=(14, 92, 25))
+    p.shape("-18 36!, 20 50, 58 36!, 60 54!, 20 68, -22 54!")
+    p.one(limb("26 112, -24 128, -62 104", 52, 42, 36), oval(-66, 100, 24, 17), join=(30, 110, 32))
+    p.line("-91 99, -76 99")
 p.save()
