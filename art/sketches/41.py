@@ -14,7 +14,7 @@ p.shape("206 86!, 352 86!, 352 100!, 206 100!")
 
 p.note("girl behind the table, her arm round the dog")
 with p.at(110, 196):
-    p.shape(limb("-4 40, -8 80", 32, 36, flat=True))
+    p.shape(limb("-4 40, -8 100", 32, 36, flat=True))
     p.shape("-26 76!, -6 86, 14 74!, 44 92, 66 130, 66 230!, -66 230!, -64 140, -52 94")
     with p.at(6, 4, 1.04, 12):
         head(p, "34", "tails", eyes="white", look=(1, 1), mouth="frown", brows=9, r=4.4)

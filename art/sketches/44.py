@@ -15,7 +15,7 @@ p.line("538 76, 546 56, 560 48")
 
 p.note("girl behind the cake, the balloon's string in her hand")
 with p.at(462, 182):
-    p.shape(limb("4 36, 6 84", 34, 36, flat=True))
+    p.shape(limb("4 36, 6 100", 34, 36, flat=True))
     p.shape("-34 92, -10 78!, 8 86, 26 76!, 58 82, 80 110, 80 290!, -64 290!, -58 130")
     with p.at(0, 0, .98, 8, flip=True):
         head(p, "34", "tails", eyes="happy", mouth="open", brows=None)
