@@ -1,4 +1,5 @@
 from hand import *
+from hands import hand
 from people import *
 
 p = Page("50", "Carnival: the bear cub walks into the clown's lifted shoe; behind, the princess throws streamers")
@@ -6,59 +7,57 @@ p = Page("50", "Carnival: the bear cub walks into the clown's lifted shoe; behin
 p.note("street")
 p.shape("-10 452!, 300 420, 630 366!, 630 560!, -10 560!")
 
-p.note("roofs far away")
-p.shape("-10 330!, 30 270!, 84 330!, 84 470!, -10 470!")
-p.shape("300 420!, 300 270!, 348 222!, 396 270!, 396 420!")
-
-p.shape("-10 452!, 300 420, 630 366!, 630 560!, -10 560!")
-
 p.note("two lines of bunting")
-bunting(p, "-10 40, 100 58, 220 48, 330 -40", 4)
-bunting(p, "340 -30, 410 40, 520 66, 640 40", 4)
+bunting(p, "-10 40, 100 58, 220 48, 330 -40", 3, 52)
+bunting(p, "340 -30, 410 40, 520 66, 640 40", 3, 52)
 
-p.note("princess, small and behind, in profile")
+p.note("princess, small and behind, in profile, throwing a streamer")
+p.tube("416 188, 386 174, 386 142, 414 126, 404 96, 366 94, 336 112, 306 104", 13)
 with p.at(506, 220, 1.1):
-    p.shape(limb("-2 -14, 0 14", 16, 16))
-    p.tube("-62 -38, -92 -74, -134 -50, -120 -14, -90 -30, -112 -74, -160 -84, -186 -50", 14)
-    p.one(arm("-8 22, -36 8, -56 -30", 17, 14, thumb=-1))
-    p.one("-14 4!, 12 4!, 22 34, 34 70, 70 168!, 8 176, -52 168!, -22 74, -22 34", limb("-4 18, -22 16, -34 8", 24, 24, flat=True))
-    p.line("-22 74, 4 82, 34 70")
-    p.one(arm("12 22, 34 40, 48 62", 17, 14, thumb=1))
-    p.one("-2 10, 22 8, 42 36!, 22 50!, 4 36", join=(2, 18, 21))
-    with p.at(0, -36, .72, flip=True):
+    hand(p, -74, -18, -124, "open", 1, .72)
+    p.shape(limb("-6 22, -52 20, -74 -16", 28, 24, 20, flat=True))
+    p.shape(limb("-1 -16, 2 30", 18, 20, flat=True))
+    p.shape("-26 14, -10 2!, 2 10, 14 2!, 28 18, 30 50, 32 74!, 4 82, -26 76!, -28 44")
+    p.shape("-26 74!, 4 82, 32 72!, 52 120, 72 170!, 10 184, -56 172!, -44 120")
+    with p.at(0, -36, .76, flip=True):
         head(p, "side", "pony", mouth="open", brows=None, r=6.5)
         p.shape("-38 -40!, -48 -90!, -20 -66!, -4 -100!, 12 -66!, 40 -80!, 32 -38!, -4 -50")
+    hand(p, 42, 74, 100, "flat", 1, .7)
+    p.one(limb("16 22, 40 44, 42 74", 28, 24, 20, flat=True), join=(14, 18, 14))
 
-p.note("clown: the far arm with its stick")
-p.tube("312 232, 356 182", 13)
-p.shape(oval(360, 178, 12))
-p.one(arm("226 250, 284 266, 310 236", 34, 28, thumb=-1, grip=True))
-p.shape(limb("190 232, 236 262, 280 262", 76, 58, flat=True))
+p.note("clown: the far arm lifts its stick")
+p.tube("318 222, 344 176", 13)
+p.shape(oval(348, 170, 13))
+hand(p, 306, 240, -60, "fist", -1, 1)
+p.shape(limb("210 252, 268 286, 310 236", 74, 60, 40, flat=True))
 
 p.note("clown: lifted leg, trunk and standing leg are one suit")
-p.shape("352 366!, 346 414!, 352 430, 420 420, 436 398, 420 376, 392 384, 376 366!")
+with p.at(386, 366, .86, -34):
+    p.shape("-34 -6!, -38 26, -34 44!, 70 44!, 78 20, 62 2, 30 6, 12 -8!")
+    p.line("-35 31, 77 31")
 p.shape("112 474!, 98 500, 104 514!, 214 514!, 222 490, 196 474, 168 476, 154 466!")
 p.line("100 503, 220 503")
-trunk = "140 214, 128 250, 112 310, 112 360, 150 384, 214 380, 252 350, 250 300, 240 250, 226 214"
-leg1, leg2 = limb("150 350, 138 410, 134 468", 82, 62, flat=True), limb("214 340, 300 322, 344 330, 360 384", 76, 74, 54, flat=True)
-p.one(trunk, leg1, leg2, limb("150 238, 108 270, 116 316", 58, 50, flat=True))
-p.line("186 226, 180 270, 176 340", 4)
-p.line("130 256, 140 276, 138 298")
-p.shape(scallops(oval(134, 470, 42, 13), 8, .35))
-p.shape(scallops(oval(362, 378, 36, 13, 12), 8, .35))
+trunk = "140 214, 120 246, 108 300, 104 350, 124 384, 180 392, 230 376, 256 340, 252 290, 240 250, 226 214"
+leg1, leg2 = limb("150 350, 140 410, 138 470", 92, 76, 60, flat=True), limb("196 340, 290 310, 346 314, 372 362", 88, 80, 66, 52, flat=True)
+p.one(trunk, leg1, leg2)
+p.shape(scallops(oval(138, 470, 42, 13), 8, .35))
+p.shape(scallops(oval(370, 356, 37, 13, -22), 8, .35))
+p.spot(190, 254, 6)
 
 p.note("drum at the hip")
-with p.at(236, 316, 1, 14):
+with p.at(238, 312, 1, 12):
     p.shape("-58 -24!, -56 40, 0 60, 56 40, 58 -24!")
     with p.within("-58 -24!, -56 40, 0 60, 56 40, 58 -24!"):
         p.line("-70 16, 0 40, 70 16", 4)
     p.shape(oval(0, -24, 58, 20))
+    p.line("-58 -20, -86 -60, -72 -90", 4)
+    p.out.pop()
 
 p.note("clown: the near arm strikes")
-p.tube("152 332, 218 288", 13)
-p.shape(oval(222, 286, 12))
-p.one(arm("114 304, 128 326, 144 334", 32, 28, thumb=-1, grip=True))
-p.shape(limb("118 296, 118 312, 122 320", 54, 58, flat=True, steps=4))
+p.tube("152 334, 220 284", 13)
+p.shape(oval(224, 281, 13))
+hand(p, 136, 342, -34, "fist", -1, 1.05)
+p.one(limb("142 252, 88 306, 98 348, 138 342", 64, 58, 50, 40, flat=True), join=(144, 244, 33))
 
 p.note("clown: ruff, head, hat")
 p.shape(scallops(oval(182, 212, 74, 24, 6), 11, .4))
@@ -77,7 +76,7 @@ with p.at(190, 152, 1.08, 12):
     p.shape(scallops(oval(-16, -112, 14), 6, .4))
 
 p.note("the bear cub, nose against the shoe")
-with p.at(510, 426):
+with p.at(500, 416):
     p.one(oval(44, 44, 34, 38), oval(10, 20, 46, 52, -20), limb("16 56, 6 72, -24 84", 40, 32), oval(79, 66, 13))
     p.one(limb("58 66, 56 86, 34 98", 46, 36), join=(62, 62, 26))
     p.shape(oval(-14, -54, 16))
@@ -89,7 +88,4 @@ with p.at(510, 426):
     p.one(limb("22 24, 2 46, -20 58", 34, 28), oval(-24, 58, 17, 15), join=(26, 22, 21))
     p.tube("-24 52, -10 14", 11)
     p.shape(oval(-8, 6, 15))
-    p.line("-12 10, -6 10, -4 4")
-    
-p.lines("432 352, 420 336", "452 342, 450 322", "472 340, 482 324", width=4)
 p.save()
