@@ -22,8 +22,8 @@ with p.at(556, 176, .72, -14):
 
 p.note("elephant: far legs")
 with p.at(14, 6):
-    p.shape(limb("92 290, 112 370, 104 440", 84, 60, 58, flat=True))
-    p.shape(limb("236 290, 256 370, 250 440", 84, 58, 58, flat=True))
+    p.shape(limb("92 290, 112 370, 104 450", 84, 60, 58, flat=True))
+    p.shape(limb("236 290, 256 370, 250 476", 84, 58, 56, flat=True))
     p.note("elephant: body, near legs, head and trunk are one outline; tail, ear")
     p.one("30 180, 80 124, 160 112, 220 124, 270 128, 310 160, 320 220, 300 290, 268 326, 160 352, 56 326, 16 270",
           limb("62 250, 66 330, 44 386, 48 440", 116, 94, 66, 70, flat=True), limb("212 250, 214 340, 200 390, 198 440", 110, 84, 64, 70, flat=True),
