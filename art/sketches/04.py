@@ -1,7 +1,7 @@
 from hand import *
 from people import *
 
-p = Page("04", "The kitten in the wool: one loop over the ear, one round the belly, the thread visible all along")
+p = Page("04", "The kitten in the wool: one loop round the belly, one over the ear, and a paw that catches the thread")
 
 p.note("room: window, curtain, floor")
 p.line("-10 392, 640 392", 4)
@@ -24,16 +24,13 @@ p.note("kitten, one pear of a body")
 with p.at(300, 300):
     p.one(limb("90 130, 170 150, 190 96, 168 60", 36, 30, 26, 24))
     p.one("-52 -40, 52 -40, 86 40, 112 110, 96 160, 60 176, -60 176, -96 160, -112 110, -86 40",
-          limb("-28 80, -30 130, -32 172", 44, 42), limb("28 80, 30 130, 32 172", 44, 42), oval(-36, 176, 28, 17), oval(36, 176, 28, 17), oval(-94, 168, 34, 18), oval(94, 168, 34, 18))
-    p.lines("-6 130, -5 176", "6 130, 5 176", "-46 170, -46 194", "-28 170, -28 194", "28 170, 28 194", "46 170, 46 194")
-    p.out.pop(-6)
-    p.out.pop(-5)
-    p.line("0 116, 0 190", 4)
-    p.lines("-74 118, -66 148", "74 118, 66 148")
-    p.lines("-98 84, -76 88", "98 84, 76 88")
+          limb("-28 80, -30 130, -32 172", 44, 42), oval(-36, 176, 30, 18), oval(-94, 168, 34, 18), oval(94, 168, 34, 18))
+    p.lines("-46 170, -46 194", "-28 170, -28 194", "90 172, 90 186", "106 171, 106 184")
+    p.line("-4 112, -7 140, -8 168", 4)
+    p.lines("-76 160, -72 138, -84 116", "64 158, 58 136, 78 108")
 
 p.note("thread round the belly and up behind the ear")
-p.tube("206 340, 262 372, 340 372, 394 340", 12)
+p.tube("206 340, 262 374, 330 384, 392 368", 12)
 
 p.note("head, three quarters, looking at the ball")
 with p.at(300, 206, 1.12, 6):
@@ -47,7 +44,11 @@ with p.at(300, 206, 1.12, 6):
     p.shape("-16 24!, 4 24!, -6 35!", 3)
     p.lines("-6 35, -6 42", "-26 40, -16 48, -6 42, 4 48, 14 40", "-58 24, -104 14", "-58 36, -102 42", "54 20, 84 14", "54 38, 84 42")
 p.note("loop over the ear")
-p.tube("394 340, 452 296, 470 214, 430 116, 388 82, 352 112, 362 150", 12)
+p.tube("442 312, 464 264, 470 206, 430 116, 388 82, 352 112, 362 150", 12)
+
+p.note("one paw catches the thread")
+p.one(limb("344 346, 398 376, 434 326", 50, 42, 34), oval(440, 310, 24, 22, 30), join=(340, 340, 26))
+p.lines("438 302, 434 313", "451 306, 446 317")
 
 p.note("the ball at the paws")
 p.tube("206 340, 140 320, 84 360, 100 430", 12)
