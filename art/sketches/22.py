@@ -82,7 +82,7 @@ for k in range(16):
 
 p.note("a pumpkin that fell off, a hen pecks at it")
 pumpkin(54, 492, .86)
-with p.at(182, 488, .9):
+with p.at(204, 494, .88):
     p.lines("-8 26, -10 44, -24 44", "10 26, 10 44, -4 44", width=4)
     p.shape("-48 -58, -52 -74, -40 -72, -36 -84, -24 -76, -14 -80, -10 -66, -18 -56")
     p.shape("-52 -52!, -72 -40!, -50 -36!", 3)
