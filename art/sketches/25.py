@@ -6,12 +6,12 @@ p = Page("25", "Two children sail past the lighthouse: the girl plays ball with 
 
 p.note("horizon, island with the lighthouse")
 p.line("-10 250, 640 250", 4)
-p.shape("430 252!, 458 232, 510 224, 570 230, 640 252!, 640 330!, 430 330!")
+p.shape("404 316!, 440 262, 474 234, 520 224, 580 230, 640 250!, 640 330!, 404 330!")
 tower = "486 236!, 500 92!, 566 92!, 588 240!"
 p.shape(tower)
 with p.within(tower):
     p.lines("470 142, 600 138", "460 190, 600 186", width=4)
-p.line("526 236, 526 216, 538 206, 550 216, 550 222", 4)
+p.shape("524 238!, 524 214, 538 204, 552 214, 552 240!")
 p.shape("508 74!, 508 46!, 560 46!, 560 74!")
 p.shape("500 48!, 510 22, 534 10, 558 22, 568 48!")
 p.note("the keeper waves")
