@@ -32,19 +32,19 @@ with p.at(300, 14, .9):
     p.shape("-48 222!, 48 222!, 42 242!, -42 242!")
 
 p.note("children and the cat in the basket")
-with p.at(246, 328, .74, -12, flip=True):
+with p.at(244, 326, .76, -12, flip=True):
     head(p, "side", "bun", mouth="open", brows=4, r=6.6)
-with p.at(352, 326, .74, 10):
+with p.at(356, 327, .76, 8):
     head(p, "34", "curly", mouth="open", brows=None, r=6.6, ear=False, look=(1, 1))
-palm(p, 424, 352, -42, 1, "open", 1)
-p.shape(limb("364 366, 404 368, 424 350", 32, 30, 25, flat=True))
-with p.at(300, 372):
+palm(p, 424, 342, -52, 1, "open", 1)
+p.shape(limb("386 374, 414 366, 426 340", 28, 27, 25, flat=True))
+with p.at(300, 370, .86):
     p.one(oval(0, -22, 27, 24), "-28 -22!, -28 -60!, -6 -44!", "6 -44!, 28 -60!, 28 -22!")
     p.eye(-9, -28, 4)
     p.eye(11, -28, 4)
     p.spot(1, -19, 4, 3)
 p.shape("210 362!, 392 362!, 388 390!, 214 390!")
-for x in (276, 326):
+for x in (280, 321):
     p.shape(f"{x - 10} 374!, {x - 11} 360, {x} 352, {x + 11} 360, {x + 10} 374!, {x} 378")
 p.shape("222 390!, 380 390!, 362 472!, 240 472!")
 p.line("231 430, 371 430", 4)
