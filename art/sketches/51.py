@@ -1,4 +1,5 @@
 from hand import *
+from hands import hand, hand_parts
 from people import *
 
 p = Page("51", "A day at the beach: the boy lies buried in the sand, his sister pats it down, the crab has found his toes")
@@ -18,22 +19,26 @@ p.tube("97 330, 116 60", 14)
 p.shape("58 344!, 78 322, 116 320, 138 344!")
 p.shape("-30 130!, -10 60, 60 14, 140 10, 210 50, 250 120!, 200 104, 160 120!, 110 96, 64 124!, 20 108")
 p.lines("104 10, 64 124", "126 8, 160 120", width=4)
-p.shape(oval(116, 8, 10))
 
-p.note("girl on her knees, in profile, pats the sand")
+p.note("girl on her knees, in profile, pats the sand with both hands on the spade")
 with p.at(262, 146):
-    p.one(limb("-30 170, 10 190, 50 196", 56, 46), limb("50 196, 0 214, -50 208", 44, 34))
-    p.one(arm("20 72, 60 100, 96 132", 32, 26, thumb=-1))
-    p.shape(limb("14 24, 6 56", 30, 30))
-    p.one("-24 56!, 30 46!, 42 90, 30 150, 36 196, -40 204, -70 170, -60 100")
-    with p.within("-24 56!, 30 46!, 42 90, 30 150, 36 196, -40 204, -70 170, -60 100"):
-        p.lines("-80 112, 60 96", "-80 150, 60 136", width=4)
+    p.one(limb("-30 184, 30 176, 72 204", 66, 56, 46), limb("74 204, 20 226, -44 226", 42, 36, 30), oval(-58, 224, 22, 14))
+    palm, fingers = hand_parts(98, 122, 40, "fist", -1, .9)
+    p.one(limb("26 84, 62 104, 100 124", 38, 32, 28), palm)
+    p.shape(limb("16 24, 2 96", 32, 36, flat=True))
+    suit = "-60 108, -28 68!, -4 80, 22 64!, 36 96, 28 150, 34 196, -10 212, -60 204, -76 166"
+    p.shape(suit)
+    with p.within(suit):
+        p.lines("-90 128, 60 120", "-90 166, 60 158", width=4)
     with p.at(26, -12, 1.02, 10):
         head(p, "side", "pony", mouth="open")
         p.shape("48 -16!, 20 -34, -20 -28, -54 -2!, -62 -30, -40 -60, 4 -70, 36 -52")
-    p.shape(limb("70 80, 116 142", 16, 16))
-    p.shape("104 132!, 130 122!, 156 156, 150 178, 128 170!")
-    p.one(limb("-14 74, 24 106, 44 104", 44, 36, flat=True), arm("42 104, 66 98, 78 92", 30, 26, thumb=1, grip=True), join=(-16, 72, 22))
+    p.shape(limb("74 78, 122 146", 16, 16))
+    p.shape("108 136!, 134 122!, 162 160, 154 184, 132 174!")
+    palm, fingers = hand_parts(74, 96, -14, "fist", -1, .95)
+    p.one(limb("-2 122, 36 128, 78 96", 38, 34, 28), palm)
+    p.lines(*fingers)
+    p.one(limb("-26 110, -8 124, 18 126", 40, 42, 40, flat=True), join=(-30, 106, 22))
 
 p.note("the mound of sand, toes and head of the boy")
 with p.at(150, 420, 1.12, -62):
@@ -45,7 +50,7 @@ with p.at(150, 420, 1.12, -62):
     p.mouth(6, 25, 14, "open")
     p.shape("48 -14!, 34 -30, 14 -24, 0 -36, -18 -22, -46 -4!, -58 -30, -34 -60, 6 -68, 44 -50")
 p.shape("206 470!, 206 400, 264 352, 330 334, 400 344, 460 340, 540 372, 584 420, 600 560!, 160 560!")
-p.lines("286 420, 320 410", "350 470, 386 462")
+p.lines("290 420, 324 410", "360 480, 396 472")
 p.note("soles and toes at the end of the mound")
 for x, t in ((486, -10), (552, 10)):
     with p.at(x, 366, 1.05, t):
