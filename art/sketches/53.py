@@ -1,4 +1,5 @@
 from hand import *
+from hands import hand
 from people import *
 
 p = Page("53", "Here comes the train: the cow on the track chews on, nose to the buffer; the driver waves, children look over the gate")
@@ -21,16 +22,17 @@ with p.at(0, 0):
     with p.at(522, 222, .78, flip=True):
         head(p, "34", "bald", mouth="open", brows=None)
         p.shape("-54 -8, -50 -42, -10 -62, 34 -50, 42 -24!, 66 -14, 40 -12, 10 -20, -30 -16")
-    p.shape("456 252!, 588 252!, 588 370!, 456 370!")
+    p.shape("456 252!, 588 252!, 588 337!, 456 337!")
     p.note("boiler, chimney, dome")
     p.shape("254 168!, 262 112, 244 84!, 318 84!, 302 112, 310 168!")
     p.shape("236 66!, 326 66!, 326 86!, 236 86!")
-    p.shape("356 172!, 358 138, 384 124, 410 138, 412 172!")
+    p.shape("338 172!, 340 138, 366 124, 392 138, 394 172!")
     p.shape("226 180!, 240 166!, 456 166!, 456 336!, 240 336!, 226 322!")
     p.shape("214 176!, 236 170!, 236 338!, 216 338!, 206 250")
     p.shape("202 336!, 610 336!, 610 372!, 202 372!")
-    p.one(arm("492 266, 448 252, 424 206", 32, 28, 24, thumb=1), join=(494, 266, 21))
-    p.line("300 170, 300 336", 4)
+    hand(p, 424, 210, -124, "open", 1, 1)
+    p.shape(limb("530 276, 462 250, 422 206", 36, 36, 32, flat=True))
+    p.shape("456 252!, 588 252!, 588 337!, 456 337!")
     p.shape(box(188, 344, 30, 32))
     p.shape(oval(184, 355, 8, 24))
     p.note("wheels and one rod")
@@ -42,11 +44,8 @@ with p.at(0, 0):
     p.shape(limb("262 404, 516 404", 22, 22))
 p.note("cow on the track, nose to the buffer")
 with p.at(84, 324, .99):
-    p.shape(limb("-52 40, -44 80, -52 112", 44, 28, 24, flat=True))
-    p.shape("-66 108!, -68 126!, -36 126!, -39 110!")
     p.one(limb("30 40, 62 70, 54 110", 44, 30, 24, flat=True))
     p.shape("41 107!, 40 126!, 74 126!, 67 108!")
-    p.line("-100 -36, -122 -20, -116 30", 4)
     p.one("-100 -44, -60 -54, 0 -44, 30 -60, 46 -74, 76 -64, 84 -34, 78 -2, 62 14, 46 20, 40 44, 16 64, -24 74, -64 64, -96 50, -110 0",
           limb("-78 20, -74 70, -90 94, -88 118", 70, 38, 28, 26, flat=True), limb("4 34, 14 84, 6 118", 64, 32, 26, flat=True))
     p.shape("48 -10, 84 -16, 96 6, 84 28, 58 30, 44 12")
@@ -60,17 +59,15 @@ with p.at(84, 324, .99):
     p.shape("-9 114!, -13 132!, 25 132!, 21 114!")
 
 train.__exit__(None, None, None)
-p.note("children at the gate, from behind, waving")
-p.shape(box(-10, 494, 640, 60))
-p.line("110 494, 110 560", 4)
+p.note("children beside the track, from behind, waving")
 with p.at(336, 462, .92):
-    p.one(arm("-76 62, -94 22, -96 -8", 32, 26, thumb=-1))
-    p.shape(limb("0 40, 0 70", 30, 30))
-    p.one("-46 66, 0 58, 46 66, 58 110!, -58 110!", limb("-34 84, -62 84, -78 56", 44, 42, 38, flat=True))
+    hand(p, -94, 12, -98, "open", 1, 1.1)
+    p.shape(limb("0 40, 0 84", 36, 38, flat=True))
+    p.one("-56 82, -20 62!, 0 70, 20 62!, 56 82, 60 120!, -60 120!", limb("-34 92, -78 84, -92 14", 48, 42, 34, flat=True))
     head(p, "back", "tails")
 with p.at(470, 470, .86):
-    p.one(arm("72 58, 94 22, 96 -8", 32, 26, thumb=1))
-    p.shape(limb("0 40, 0 70", 30, 30))
-    p.one("-46 66, 0 58, 46 66, 58 110!, -58 110!", limb("34 84, 62 84, 76 54", 44, 42, 38, flat=True))
+    hand(p, 94, 12, -82, "open", -1, 1.1)
+    p.shape(limb("0 40, 0 84", 36, 38, flat=True))
+    p.one("-56 82, -20 62!, 0 70, 20 62!, 56 82, 60 120!, -60 120!", limb("34 92, 78 84, 92 14", 48, 42, 34, flat=True))
     head(p, "back", "curly")
 p.save()
