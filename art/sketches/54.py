@@ -1,4 +1,5 @@
 from hand import *
+from hands import hand
 from people import *
 
 p = Page("54", "Ducks in the park: the girl offers bread, the ducklings follow in a line, one sits on the sleeping grandfather's hat")
@@ -7,7 +8,6 @@ p.note("park far away, path")
 p.shape(scallops("-30 -30, -30 110, 60 140, 160 110, 240 140, 250 60, 230 -30", 11, .3))
 p.shape(scallops("420 -30, 400 60, 460 110, 560 90, 650 120, 660 -30", 9, .3))
 p.shape("-10 236, 200 216, 420 232, 640 214!, 640 560!, -10 560!")
-p.shape("-10 260, 150 250, 330 276, 500 330, 640 350!, 640 560!, -10 560!")
 
 p.note("bench with grandfather asleep")
 p.shape(box(26, 150, 250, 24))
@@ -20,18 +20,18 @@ with p.at(140, 138):
     shoe(p, 52, 230, 0, 1.15)
     p.one(limb("10 158, 76 162, 90 226", 54, 50, 42, flat=True))
     p.one("-60 126!, 20 126!, 10 172, -30 176, -66 160", limb("-30 152, 42 164, 54 236", 64, 58, 46, flat=True))
-    p.shape(limb("2 36, 0 64", 32, 32))
-    p.one("-40 66!, 36 62!, 58 104, 54 166!, 0 172, -56 166!, -60 108")
+    p.shape(limb("2 36, 0 84", 36, 40, flat=True))
+    p.shape("-58 100, -22 66!, 0 80, 22 64!, 56 96, 60 130, 54 168!, 0 174, -56 168!, -62 130")
     with p.at(8, 0, 1.02, 12):
         head(p, "34", "bald", eyes="closed", mouth="", brows=None, nose=False)
         p.shape("-4 26, 10 20, 26 24, 42 20, 54 28, 40 40, 26 34, 10 40")
         p.shape(oval(28, 14, 13, 11))
         p.shape("-54 -16!, -50 -34, 40 -34, 60 -14!, 10 -24")
         p.shape("-46 -32!, -40 -62, 0 -70, 34 -60, 40 -32!")
-    p.one(limb("34 92, 56 118, 20 128", 42, 38, 32, flat=True), join=(31, 86, 23))
-    p.one(oval(14, 127, 16, 14), oval(-4, 130, 16, 14), limb("4 122, 12 112", 13, 11))
-    p.line("4 126, 8 140")
-    p.one(limb("-38 92, -64 120, -18 131", 46, 42, 34, flat=True), join=(-36, 86, 24))
+    hand(p, 26, 136, 172, "flat", 1, .95, lines=False)
+    p.one(limb("36 92, 62 126, 22 138", 42, 38, 32, flat=True), join=(32, 86, 23))
+    hand(p, -18, 140, 2, "flat", -1, 1)
+    p.one(limb("-38 92, -64 126, -16 140", 46, 42, 34, flat=True), join=(-35, 86, 24))
     with p.at(6, -92, .82):
         p.shape("-34 24, -44 0!, -26 -4, -6 -2, -4 -28, 14 -40, 32 -28, 32 -6, 24 16, 8 28")
         p.shape("30 -28!, 52 -18, 31 -12!")
@@ -39,17 +39,19 @@ with p.at(140, 138):
         p.line("-24 8, -12 16, 2 8")
 p.note("girl squats at the water's edge, in profile")
 with p.at(470, 210, flip=True):
-    p.one(limb("-30 150, 50 134", 56, 46), limb("50 134, 46 170, 30 196", 42, 34, 28, flat=True))
-    shoe(p, 34, 204, 0, 1.1)
-    p.one(arm("18 76, 64 86, 108 92", 30, 24, thumb=-1))
-    p.shape(limb("14 34, 4 62", 28, 28))
-    p.one("-34 64!, 24 54!, 40 92, 20 140, -30 172, -84 160, -80 110")
+    p.shape(limb("68 140, 60 172, 48 200", 40, 34, 30, flat=True))
+    shoe(p, 50, 202, 0, 1.05)
+    hand(p, 80, 82, 2, "flat", 1, .95)
+    p.shape(limb("18 84, 50 90, 84 82", 38, 34, 30, flat=True))
+    p.shape(limb("14 34, 0 84", 32, 36, flat=True))
+    p.shape("-36 84, -18 62!, -2 76, 18 58!, 36 84, 30 130, 16 166, -40 184, -84 170, -78 124")
     with p.at(24, -2, 1, 8):
         head(p, "side", "tails", mouth="smile", brows=None)
-    p.one(limb("-48 152, 0 140, 46 126", 66, 58, 48), limb("44 126, 30 176, -8 208", 48, 40, 32, flat=True), join=(-50, 150, 36))
-    shoe(p, -6, 214, 2, 1.15)
-    p.shape("96 62!, 132 48, 160 66, 168 96, 146 118, 108 112!")
-    p.one(limb("-18 88, 20 112, 46 108", 44, 36, flat=True), arm("46 108, 76 104, 98 98", 28, 22, thumb=1), join=(-20, 86, 21))
+    p.one(limb("-50 152, 4 148, 48 132", 64, 56, 46), limb("46 130, 36 168, 16 208", 46, 38, 32, flat=True), join=(-56, 152, 34))
+    shoe(p, 18, 212, 0, 1.15)
+    p.shape("92 74!, 128 52, 156 66, 164 98, 142 118, 104 116!")
+    hand(p, 84, 108, -8, "fist", -1, 1)
+    p.one(limb("-20 92, 14 122, 44 124, 88 108", 44, 40, 38, 32, flat=True), join=(-22, 88, 21))
 
 p.note("pond in front")
 p.shape("-10 380, 120 356, 300 384, 400 446, 500 452, 640 446!, 640 560!, -10 560!")
