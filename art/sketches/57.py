@@ -1,4 +1,5 @@
 from hand import *
+from hands import hand
 from people import *
 
 p = Page("57", "Two in a canoe: grandfather paddles with all his strength; the girl shrugs, as the beaver swims off with her paddle")
@@ -16,10 +17,10 @@ p.note("girl in the bow, turned round to him, empty-handed")
 with p.at(180, 192):
     p.shape("-24 -44!, -58 -76, -74 -100!, -60 -104!, -66 -136!, -38 -116, -14 -56!")
     p.line("-22 -56, -34 -80, -50 -106")
-    p.shape(limb("-2 36, -4 70", 28, 28))
-    p.one(arm("-68 128, -92 114, -106 96", 28, 24, thumb=1))
-    p.one(arm("64 130, 88 116, 104 98", 28, 24, thumb=-1))
-    p.one("-36 64, 0 60, 34 64, 46 110, 52 220!, -54 220!, -48 110", limb("-28 84, -46 126, -74 124", 42, 40, 34, flat=True), limb("26 84, 44 128, 72 124", 42, 40, 34, flat=True))
+    hand(p, -92, 106, -118, "open", 1, 1)
+    hand(p, 92, 106, -62, "open", -1, 1)
+    p.shape(limb("-2 36, -4 88", 34, 38, flat=True))
+    p.one("-48 82, -24 64!, -4 80, 16 64!, 44 82, 50 130, 56 220!, -58 220!, -54 130", limb("-34 92, -62 136, -93 104", 44, 42, 34, flat=True), limb("30 92, 62 136, 93 104", 44, 42, 34, flat=True))
     p.line("-26 92!, -14 106!, -2 94!, 10 106!, 22 92!")
     with p.at(2, 0, 1, -6):
         head(p, "34", "braid", eyes="white", look=(1, 0), mouth="o", brows=10, r=4.6)
@@ -29,9 +30,9 @@ p.note("grandfather, leaning into the stroke")
 with p.at(446, 0, flip=True):
     p.shape("-26 104!, -66 74, -84 46!, -70 44!, -78 12!, -46 34, -14 92!")
     p.line("-24 92, -40 66, -58 42")
-    p.one(limb("30 240, 74 244, 104 214", 42, 36, flat=True))
-    p.shape(limb("22 170, 8 214", 34, 34))
-    p.one("-26 212, 20 202, 50 226, 52 290, 50 400!, -84 400!, -76 310, -60 246")
+    p.shape(limb("30 236, 70 250, 106 212", 46, 42, 36, flat=True))
+    p.shape(limb("22 170, 10 240", 42, 46, flat=True))
+    p.one("-62 236, -20 206!, 10 228, 34 204!, 56 240, 56 290, 50 400!, -84 400!, -80 310, -74 264")
     with p.at(26, 142, 1.06, 12):
         head(p, "side", "long", eyes="closed", mouth="", brows=-4)
         p.shape("50 22!, 34 18, 24 28, 10 30, 12 48, 30 60, 46 48")
@@ -48,9 +49,9 @@ p.shape("288 444!, 316 450!, 318 486, 306 526, 286 538, 270 520, 272 480")
 p.shape(limb("330 160, 302 452", 14, 14))
 p.shape(limb("316 156, 346 160", 16, 16))
 with p.at(446, 0, flip=True):
-    p.one(arm("102 216, 112 202, 116 194", 30, 28, thumb=-1, grip=True))
-    p.one(arm("96 316, 114 318, 124 318", 32, 28, thumb=-1, grip=True))
-    p.one(limb("-24 250, -8 322, 34 340, 102 316", 58, 54, 46, 38, flat=True), join=(-24, 244, 28))
+    hand(p, 106, 206, -46, "fist", -1, 1.1)
+    hand(p, 106, 318, -6, "fist", -1, 1.15)
+    p.one(limb("-28 262, -10 330, 34 348, 110 318", 58, 54, 46, 38, flat=True), join=(-28, 256, 29))
 
 p.note("the beaver with the other paddle in its teeth")
 with p.at(120, 474):
