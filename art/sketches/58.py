@@ -1,4 +1,5 @@
 from hand import *
+from hands import hand, hand_parts
 from people import *
 
 p = Page("58", "Playing with blocks: the girl on tiptoe sets the last one, the boy holds his breath, the dog's tail will do the rest")
@@ -26,7 +27,6 @@ with p.at(520, 330, .9):
     p.spot(-38, -54, 10, 8)
     p.eye(4, -64, 5.5)
     p.line("-32 -36, -14 -32, 4 -40")
-    p.line("-122 -56, -130 -70")
     p.line("-16 56, 6 50, 24 60")
     p.line("30 10, 26 40")
 
@@ -48,14 +48,17 @@ with p.at(204, 0):
     shoe(p, -8, 464, 28, 1)
     p.one(limb("-34 366, -48 410, -64 444", 42, 28))
     shoe(p, -64, 456, 28, 1)
-    p.shape(limb("4 176, -2 206", 28, 28))
-    p.one("-34 208!, 20 200!, 38 240, 40 300, 60 380!, 0 394, -78 378!, -50 300, -50 250")
+    p.shape(limb("4 176, -4 226", 34, 38, flat=True))
+    p.shape("-48 236, -28 206!, -4 216, 20 202!, 42 228, 42 300, 62 380!, 0 394, -78 378!, -52 300, -54 260")
     p.line("-52 294, -4 306, 42 292")
     p.shape(heart(-8, 348, 20))
     with p.at(10, 128, .94, -14):
         head(p, "side", "pony", mouth="tongue", brows=None)
     p.shape("90 90!, 152 76!, 160 136!, 100 148!")
-    p.one(limb("-16 226, 20 210, 50 178", 48, 42, 38, flat=True), arm("52 178, 76 150, 88 130", 32, 26, thumb=1), join=(-14, 230, 22))
+    palm, fingers = hand_parts(90, 136, -64, "flat", 1, 1.05)
+    p.one(limb("10 244, 64 216, 90 134", 40, 36, 28), palm)
+    p.lines(*fingers)
+    p.one(limb("-20 256, 16 246, 48 228", 44, 46, 43, flat=True), join=(-24, 256, 24))
 
 p.note("boy on his belly, cheeks blown up, hands at his mouth")
 with p.at(520, 480, flip=True):
@@ -63,8 +66,8 @@ with p.at(520, 480, flip=True):
     p.line("-24 -30, -34 36", 4)
     with p.at(86, -66, .98, -10):
         head(p, "side", "curly", mouth="o", brows=8)
-    p.one(arm("96 12, 108 -2, 112 -12", 26, 24, thumb=1))
-    p.one(limb("40 -6, 42 24, 66 30, 98 10", 44, 40, 36, 30, flat=True), join=(38, -8, 22))
+    hand(p, 104, 2, -70, "open", 1, .9)
+    p.one(limb("30 -2, 44 26, 70 28, 102 4", 42, 40, 36, 32, flat=True), join=(26, -6, 24))
 p.note("blocks that wait")
 p.shape("60 474!, 112 464!, 122 510!, 68 520!")
 p.save()
