@@ -224,7 +224,7 @@ const std::string& Stage::folder() {
   if (folder_.empty()) {
     std::random_device random;
     folder_ = (std::filesystem::temp_directory_path() / ("kraspret-" + std::to_string(random())))
-                  .string();
+                  .generic_string();
     std::filesystem::create_directories(folder_);
   }
   return folder_;

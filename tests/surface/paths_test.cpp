@@ -1,6 +1,5 @@
 // Paths as they are written in the program, with backslashes, and as the system takes them.
 #include <filesystem>
-#include <fstream>
 
 #include "support/script.h"
 #include "surface/picture.h"
@@ -21,14 +20,6 @@ TEST_F(Paths, ABackslashPartsFoldersWhenAPictureIsSavedAndLoaded) {
   const Picture back = LoadPicture(folder() + "\\Beeld\\plaat.bmp");
   EXPECT_EQ(back.width(), 3);
   EXPECT_EQ(toColor(back.bitmap()->at(1, 1)), 0x336699);
-}
-
-TEST_F(Paths, AFileWhoseNameHoldsABackslashIsFoundByIt) {
-  const std::string odd = folder() + "/een\\twee.bmp";
-  std::ofstream(odd) << "iets";
-  EXPECT_EQ(toPath(odd), odd);
-  SavePicture(dot(), odd);
-  EXPECT_EQ(LoadPicture(odd).height(), 2);
 }
 
 TEST_F(Paths, APathWithSlashesStaysAsItIs) { EXPECT_EQ(toPath("/een/twee.bmp"), "/een/twee.bmp"); }

@@ -1,4 +1,6 @@
 // The toolkit's own dialogs behind the seams, answered by hand: Dutch buttons, answers, cancels.
+#include "surface/real_dialogs.h"
+
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QAccessible>
@@ -18,31 +20,12 @@
 #include <QWidget>
 #include <filesystem>
 #include <fstream>
-#include <functional>
 
 #include "support/errors.h"
-#include "support/script.h"
-#include "surface/host.h"
-#include "surface/qt/dialogs.h"
-#include "surface/qt/toolkit.h"
 
 using namespace surface;
 
 namespace {
-
-/// Does something with the dialog of this kind once it is open.
-template <class Dialog>
-void whenOpen(std::function<void(Dialog&)> act) {
-  QTimer::singleShot(0, [act = std::move(act)] {
-    auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
-    if (dialog)
-      act(*dialog);
-    else
-      ADD_FAILURE() << "another dialog is open, or none";
-    // Whatever the test found, nothing stays open for ever.
-    if (QWidget* left = QApplication::activeModalWidget()) left->close();
-  });
-}
 
 void choose(QMessageBox& box, const QString& text) {
   for (QAbstractButton* button : box.buttons())
@@ -63,11 +46,6 @@ std::vector<std::string> nameless(const QWidget& dialog) {
 }
 
 }  // namespace
-
-class RealDialogs : public script::Stage {
- protected:
-  RealDialogs() { surface::qt::install(); }
-};
 
 TEST_F(RealDialogs, AQuestionHasDutchButtonsAndTheirAnswers) {
   for (const auto& [text, answer] : {std::pair{"Ja", Yes}, {"Nee", No}}) {
@@ -212,17 +190,6 @@ TEST_F(RealDialogs, AMessageCannotBeMadeSmallOrLarge) {
   MsgBox("Klaar");
 }
 
-// What it would read for that has held it up for seconds.
-TEST_F(RealDialogs, TheDialogOfThePrinterOffersNoFilesWhileANameIsTyped) {
-  whenOpen<QDialog>([](QDialog& dialog) {
-    EXPECT_FALSE(dialog.findChildren<QLineEdit*>().empty());
-    for (const QLineEdit* field : dialog.findChildren<QLineEdit*>())
-      EXPECT_EQ(field->completer(), nullptr);
-    dialog.reject();
-  });
-  EXPECT_FALSE(host().printerDialog());
-}
-
 TEST_F(RealDialogs, AFileDialogShowsFoldersAndFilesByTwoIconsOnly) {
   std::filesystem::create_directory(folder() + "/map");
   for (const char* name : {"/a.bmp", "/b.gif", "/c"}) std::ofstream(folder() + name) << "x";
@@ -238,24 +205,6 @@ TEST_F(RealDialogs, AFileDialogShowsFoldersAndFilesByTwoIconsOnly) {
   });
   EXPECT_EQ(host().fileDialog({false, "Alle bestanden|*.*", 1}), std::nullopt);
 }
-
-TEST_F(RealDialogs, TheDialogOfThePrinterCannotBeMadeSmallOrLarge) {
-  whenOpen<QDialog>([](QDialog& dialog) {
-    EXPECT_EQ(dialog.windowTitle(), "Afdrukken");
-    EXPECT_FALSE(dialog.windowFlags() & Qt::WindowMinMaxButtonsHint);
-    EXPECT_TRUE(dialog.windowFlags() & Qt::WindowCloseButtonHint);
-    dialog.reject();
-  });
-  EXPECT_FALSE(host().printerDialog());
-}
-
-namespace {
-
-struct Ruler : Form {
-  Ruler() : Form({.Caption = "lat"}) {}
-};
-
-}  // namespace
 
 TEST_F(RealDialogs, AWindowAboveAllOthersCoversNoDialog) {
   const auto expectAbove = [](bool above) {
@@ -273,13 +222,11 @@ TEST_F(RealDialogs, AWindowAboveAllOthersCoversNoDialog) {
     whenOpen<QDialog>(look);
     host().colorDialog(Black, 4);
     whenOpen<QDialog>(look);
-    host().printerDialog();
-    whenOpen<QDialog>(look);
     host().errorReport("Division by zero", false);
   };
   expectAbove(false);
-  the<Ruler>().setTopMost();
-  the<Ruler>().Show();
+  the<AboveAll>().setTopMost();
+  the<AboveAll>().Show();
   expectAbove(true);
 }
 

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QColorDialog>
+#include <QComboBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileIconProvider>
@@ -106,6 +107,13 @@ void hideMixing(QColorDialog& dialog) {
         kind.endsWith("QColorShower") || kind == "QPushButton")
       part->hide();
   }
+}
+
+// The labels beside the two lists are not tied to them: a screen reader would have nothing to say.
+void nameLists(const QFileDialog& dialog) {
+  for (const auto& [list, name] :
+       {std::pair{"lookInCombo", "Map"}, {"fileTypeCombo", "Soort bestand"}})
+    if (auto* box = dialog.findChild<QComboBox*>(list)) box->setAccessibleName(name);
 }
 
 // Room for a whole date; the name takes what is left.
@@ -216,6 +224,7 @@ std::optional<std::string> fileDialog(const FileRequest& request) {
   dialog.setLabelText(QFileDialog::LookIn, "Map:");
   dialog.setLabelText(QFileDialog::FileName, "Bestands&naam:");
   dialog.setLabelText(QFileDialog::FileType, "Soort bestand:");
+  nameLists(dialog);
   widenColumns(dialog);
   protectFiles(dialog);
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
