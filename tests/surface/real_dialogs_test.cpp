@@ -11,6 +11,7 @@
 #include <QCompleter>
 #include <QFileDialog>
 #include <QFileIconProvider>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QMimeData>
@@ -91,6 +92,29 @@ TEST_F(RealDialogs, AnInputBoxStartsWithItsDefaultAndGivesWhatWasTyped) {
   EXPECT_EQ(InputBox("Hoe breed ?", "Maat", "10"), "12,5");
   whenOpen<QDialog>([](QDialog& dialog) { dialog.reject(); });
   EXPECT_EQ(InputBox("Hoe breed ?", "Maat", "10"), "");
+}
+
+TEST_F(RealDialogs, AnInputBoxWithALongQuestionShowsAllOfItOnTheScreen) {
+  std::string question;
+  for (int i = 0; i < 60; ++i) question += "een lange vraag ";
+  whenOpen<QDialog>([](QDialog& dialog) {
+    EXPECT_LE(dialog.width(), dialog.screen()->availableSize().width());
+    const auto* label = dialog.findChild<QLabel*>();
+    EXPECT_GE(label->height(), label->heightForWidth(label->width()));
+    const auto* field = dialog.findChild<QLineEdit*>();
+    EXPECT_GT(field->y(), label->y() + label->heightForWidth(label->width()) - 1);
+    dialog.reject();
+  });
+  InputBox(question, "Maat", "10");
+}
+
+TEST_F(RealDialogs, AShortQuestionStaysOnOneLine) {
+  whenOpen<QDialog>([](QDialog& dialog) {
+    const auto* label = dialog.findChild<QLabel*>();
+    EXPECT_LT(label->height(), 2 * label->fontMetrics().lineSpacing());
+    dialog.reject();
+  });
+  InputBox("De gewenste breedte opgeven a.u.b.", "Maat", "10");
 }
 
 TEST_F(RealDialogs, TheOpenDialogShowsTheRowsOfTheFilterAndTheOneSelected) {

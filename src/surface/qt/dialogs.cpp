@@ -13,6 +13,7 @@
 #include <QHeaderView>
 #include <QImageReader>
 #include <QInputDialog>
+#include <QLabel>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPushButton>
@@ -189,6 +190,16 @@ int msgBox(const std::string& text, int buttons, const std::string& title) {
   return Ok;
 }
 
+// A long question takes several lines, as in a message box: on one it would be wider than the
+// screen.
+static void wrapQuestion(QInputDialog& dialog) {
+  auto* question = dialog.findChild<QLabel*>();
+  const int screen = QGuiApplication::primaryScreen()->availableSize().width();
+  const int width = std::min(question->sizeHint().width(), screen * 2 / 3);
+  question->setWordWrap(true);
+  question->setMinimumWidth(width);
+}
+
 std::optional<std::string> inputBox(const std::string& prompt, const std::string& title,
                                     const std::string& initial) {
   showPending();
@@ -196,6 +207,7 @@ std::optional<std::string> inputBox(const std::string& prompt, const std::string
   prepareDialog(dialog);
   dialog.setWindowTitle(titleOf(title));
   dialog.setLabelText(QString::fromStdString(prompt));
+  wrapQuestion(dialog);
   dialog.setTextValue(QString::fromStdString(initial));
   dialog.setOkButtonText("OK");
   dialog.setCancelButtonText("Annuleren");
