@@ -50,6 +50,14 @@ std::string_view withoutPlus(std::string_view text) {
   return text;
 }
 
+// A number of too many digits, or with an exponent too large, is the largest there is; a minus
+// beyond the sign is that of an exponent too small.
+double beyondRange(std::string_view number) {
+  if (number.find('-', 1) != std::string_view::npos) return 0;
+  constexpr double largest = std::numeric_limits<double>::max();
+  return number[0] == '-' ? -largest : largest;
+}
+
 }  // namespace
 
 std::int16_t toInt16(double value) { return narrow<std::int16_t>(value); }
@@ -59,6 +67,8 @@ double Val(const std::string& text) {
   const std::string_view rest = withoutPlus(trimmed(text));
   double value = 0;
   const auto result = std::from_chars(rest.data(), rest.data() + rest.size(), value);
+  if (result.ec == std::errc::result_out_of_range)
+    return beyondRange({rest.data(), static_cast<std::size_t>(result.ptr - rest.data())});
   return result.ec == std::errc{} && std::isfinite(value) ? value : 0;
 }
 

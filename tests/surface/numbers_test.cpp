@@ -77,8 +77,15 @@ TEST(Numbers, ValReadsTheNumberAtTheStartOfAText) {
 }
 
 TEST(Numbers, ValOfATextWithoutANumberIsZero) {
-  for (const char* text : {"", "   ", "abc", "+-5", "-", ".", "inf", "nan", "1e999"})
+  for (const char* text : {"", "   ", "abc", "+-5", "-", ".", "inf", "nan", "1e-999"})
     EXPECT_EQ(Val(text), 0) << text;
+}
+
+TEST(Numbers, ValOfANumberBeyondAllRangeIsTheLargestThereIs) {
+  constexpr double largest = std::numeric_limits<double>::max();
+  EXPECT_EQ(Val("1e999"), largest);
+  EXPECT_EQ(Val(std::string(400, '9') + " cm"), largest);
+  EXPECT_EQ(Val("-" + std::string(400, '9')), -largest);
 }
 
 TEST(Numbers, ValKnowsOnlyThePointWhateverTheSystemSays) {
