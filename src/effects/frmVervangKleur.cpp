@@ -85,7 +85,7 @@ void frmVervangKleur::Form_Load() {
 
 // A press, a drag and a release on one of the sliders.
 void frmVervangKleur::Picture1_Mouse(int Index, const Mouse& at) {
-  if (at.Button != 1) return;
+  if ((at.Button & 1) == 0) return;
   const float X = std::clamp(at.X, 0.0f, Furthest);
   Line2[Index].X1 = X;
   Line2[Index].X2 = X;

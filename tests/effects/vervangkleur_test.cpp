@@ -75,6 +75,14 @@ TEST_F(ReplacingColours, IgnoresTheRightButtonAndAPointerThatPasses) {
   EXPECT_EQ(dialog.Label4(0).Caption.get(), "0");
 }
 
+TEST_F(ReplacingColours, FollowsTheLeftButtonAlsoWhileAnotherIsHeldWithIt) {
+  auto& dialog = open();
+  dialog.Picture1(0).MouseMove({.Button = 1 | 2, .X = 150, .Y = 10});
+  EXPECT_EQ(dialog.Label4(0).Caption.get(), "50");
+  dialog.Picture1(0).MouseMove({.Button = 2 | 4, .X = 10, .Y = 10});
+  EXPECT_EQ(dialog.Label4(0).Caption.get(), "50");
+}
+
 TEST_F(ReplacingColours, TakesRedAwayAtTheFarLeftAndDoublesItAtTheFarRight) {
   const Bitmap before = drawNoise(61, 47);
   for (const auto& [column, factor] : {std::pair{-10, 0.0}, {1000, 2.0}}) {
