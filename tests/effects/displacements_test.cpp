@@ -165,3 +165,14 @@ TEST_F(RagEdge, SmearsWithAWidePen) {
                   whole(static_cast<float>(std::sin(double(x)) * 6 + (y - 3))));
   EXPECT_TRUE(same(expected, *sheet.bitmap()));
 }
+
+// The way over the columns and rows goes one beyond the picture, where there is no colour.
+TEST_F(RagEdge, IsNeitherStoppedNorSmearedByWhatLiesBeyondTheSheet) {
+  const Bitmap picture = plain(30, 30, RGB(1, 2, 3));
+  show(picture);
+  for (const int width : {1, 9}) {
+    sheet.DrawWidth = width;
+    ragEdge(sheet);
+    EXPECT_TRUE(same(picture, *sheet.bitmap())) << width;
+  }
+}

@@ -23,7 +23,7 @@ struct Row {
   CommandButton frmTekenen2::*button;
   const char* name;
   Bitmap (*work)(const Bitmap&);
-  bool progress = true;
+  bool refreshes, progress = true;
 };
 
 Bitmap scattered(const Bitmap& picture) {
@@ -32,13 +32,24 @@ Bitmap scattered(const Bitmap& picture) {
 }
 
 const Row Rows[] = {
-    {"Vervagen", &frmTekenen2::cmdVervagen, "VERVAGEN", effects::blurred},
-    {"Verscherpen", &frmTekenen2::cmdVerscherpen, "VERSCHERPEN", effects::sharpened},
-    {"Relief", &frmTekenen2::cmdRelief, "GRIJS RELIEF", effects::embossed},
-    {"Verspreiden", &frmTekenen2::cmdVerspreiden, "VERSPREIDEN", scattered},
-    {"Omkeren", &frmTekenen2::cmdOmkeren, "KLEUREN OMKEREN", effects::inverted},
-    {"Hamerslag", &frmTekenen2::cmdHamerslag, "HAMERSLAG", effects::hammered},
-    {"Grijswaarden", &frmTekenen2::cmdGrijswaarden, "GRIJSWAARDEN", effects::chained, false},
+    {"Vervagen", &frmTekenen2::cmdVervagen, "VERVAGEN", effects::blurred, false},
+    {"Verscherpen", &frmTekenen2::cmdVerscherpen, "VERSCHERPEN", effects::sharpened, false},
+    {"Relief", &frmTekenen2::cmdRelief, "GRIJS RELIEF", effects::embossed, false},
+    {"Verspreiden", &frmTekenen2::cmdVerspreiden, "VERSPREIDEN", scattered, false},
+    {"Omkeren", &frmTekenen2::cmdOmkeren, "KLEUREN OMKEREN", effects::inverted, true},
+    {"Hamerslag", &frmTekenen2::cmdHamerslag, "HAMERSLAG", effects::hammered, true},
+    {"Grijswaarden", &frmTekenen2::cmdGrijswaarden, "GRIJSWAARDEN", effects::chained, true, false},
+};
+
+// Counts how often a widget is painted.
+class Painted : public QObject {
+ public:
+  explicit Painted(QWidget* widget) { widget->installEventFilter(this); }
+  bool eventFilter(QObject*, QEvent* event) override {
+    times += event->type() == QEvent::Paint ? 1 : 0;
+    return false;
+  }
+  int times = 0;
 };
 
 // Notes what a window says of itself: its captions, and whether it ever showed the hourglass.
@@ -99,6 +110,18 @@ TEST_P(EveryEffect, AnnouncesItselfWithABannerAndAnHourglassWhileItWorks) {
   (studio.*GetParam().button).Click();
   EXPECT_EQ(heard.captions, (std::vector<std::string>{banner(GetParam().name), "KRAS PRET"}));
   EXPECT_EQ(heard.hourglass, GetParam().progress);
+}
+
+TEST_P(EveryEffect, IsShownAtOnceIfItRefreshesAndAtTheNextRepaintIfNot) {
+  drawNoise(30, 20);
+  advance(0);
+  Painted painted(script::widgetOf(sheet));
+  dispatch([&] {
+    (studio.*GetParam().button).Click();
+    EXPECT_EQ(painted.times > 0, GetParam().refreshes);
+  });
+  advance(0);
+  EXPECT_GT(painted.times, 0);
 }
 
 TEST_P(EveryEffect, SurvivesASheetOfOnePixel) {
@@ -187,7 +210,22 @@ TEST_F(Effects, BarMovesOnlyAfterTheWorkAndStepByStep) {
   }
   answerMessage(Ok);
   advance(100);
-  EXPECT_EQ(messages(), 1);
+  ASSERT_EQ(messages(), 1);
+  EXPECT_EQ(asked()[0].title, "KRAS PRET") << "the program's name: it has no title of its own";
+  EXPECT_EQ(asked()[0].buttons, OkOnly);
+}
+
+TEST_F(Effects, SayNothingMoreOnceTheStudioIsLeft) {
+  clickEffect(studio.cmdHamerslag);
+  advance(1000);
+  click(studio.cmdEinde);
+  advance(10'000);
+  EXPECT_EQ(messages(), 0);
+  auto& again = the<frmTekenen2>();
+  again.Show();
+  advance(10'000);
+  EXPECT_EQ(messages(), 0);
+  EXPECT_FALSE(again.ProgressBar1.Visible || again.Timer2.Enabled);
 }
 
 TEST_F(Effects, LeaveNoBarOnASheetThatIsWipedOrNew) {
@@ -234,12 +272,14 @@ TEST_F(Effects, BrightnessAsksAndBrightens) {
   expectOneMessageAfterFiveSeconds();
 }
 
-TEST_F(Effects, BrightnessStartsTheProgressBeforeItAsksAndTheHourglassAfter) {
-  drawNoise(10, 10);
+TEST_F(Effects, BrightnessTakesItsStepAndStartsTheProgressBeforeItAsksAndTheHourglassAfter) {
+  const Bitmap before = drawNoise(10, 10);
   bool animated = false;
   int pointer = -1;
   std::string caption;
   host().inputBox = [&](const std::string&, const std::string&, const std::string&) {
+    EXPECT_TRUE(same(*studio.UndoPic(0).Picture->bitmap(), before));
+    EXPECT_FALSE(studio.cmdUndo.Enabled);
     animated = animates();
     pointer = studio.MousePointer;
     caption = studio.Caption;
@@ -265,7 +305,9 @@ TEST_F(Effects, MessageComesAlsoAboveAnOpenInputBox) {
 }
 
 TEST_F(Effects, BrightnessBeyondItsRangeIsAbandonedHalfway) {
-  for (const char* answer : {"-1", "200.5", "201", "1e3"}) {
+  for (const std::string& answer :
+       {std::string("-1"), std::string("-0.001"), std::string("200.5"), std::string("201"),
+        std::string("1e3"), std::string(400, '9')}) {
     const Bitmap before = drawNoise(20, 20);
     studio.UndoPic(0).Picture = LoadPicture();
     answerInput(answer);
@@ -292,8 +334,9 @@ TEST_F(Effects, BrightnessOfNoNumberIsBlack) {
 }
 
 TEST_F(Effects, BrightnessReadsTheNumberAtTheStartOfTheAnswer) {
-  const std::pair<const char*, double> answers[] = {
-      {"  50", 50}, {"50,9", 50}, {"50.5", 50.5}, {"+150", 150}, {"5e1", 50}, {"50 procent", 50}};
+  const std::pair<const char*, double> answers[] = {{"  50", 50},  {"50,9", 50}, {"50.5", 50.5},
+                                                    {"+150", 150}, {"5e1", 50},  {"50 procent", 50},
+                                                    {"1e2", 100},  {"200", 200}, {"-0", 0}};
   for (const auto& [answer, percent] : answers) {
     const Bitmap before = drawNoise(40, 40);
     answerInput(answer);

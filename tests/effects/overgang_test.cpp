@@ -35,14 +35,25 @@ TEST_F(GradientPanel, StandsAsTheTableSays) {
 TEST_F(GradientPanel, SweepsFromTopToBottomAtThePressAndCloses) {
   open();
   studio.UndoPic(0).Picture = LoadPicture();
-  const auto middle = [&](bool down) {
-    down ? press(studio.cmdGradient2, 40, 12) : release(studio.cmdGradient2, 40, 12);
-  };
-  middle(true);
+  press(studio.cmdGradient2, 40, 12);
+  EXPECT_TRUE(studio.cmdUndo.Enabled) << "undo is left as it was";
   EXPECT_TRUE(shows(sheet, swept(Blue, Red, false)));
   EXPECT_FALSE(studio.fraGradient.Visible);
   EXPECT_FALSE(animates());
   EXPECT_TRUE(studio.UndoPic(0).Picture->empty()) << "no step of its own";
+  EXPECT_TRUE(same(*studio.picUndo.Picture->bitmap(), blank()));
+  releaseOnForm(studio, 5, 5);
+}
+
+TEST_F(GradientPanel, OfTwoEqualColoursMakesOneFlatColour) {
+  open();
+  studio.Picture4.BackColor = Blue;
+  for (const int row : {0, 1}) {
+    open();
+    studio.cboGradient.picked(row);
+    click(studio.cmdGradient2);
+    EXPECT_TRUE(shows(sheet, effects_test::plain(617, 537, Blue)));
+  }
 }
 
 TEST_F(GradientPanel, SweepsFromLeftToRight) {
@@ -61,6 +72,7 @@ TEST_F(GradientPanel, IsReversedByAnyOtherButton) {
   for (const int button : {2, 4}) {
     open();
     press(studio.cmdGradient2, 40, 12, button);
+    releaseOnForm(studio, 5, 5, button);
     EXPECT_TRUE(shows(sheet, swept(Red, Blue, false)));
     EXPECT_FALSE(studio.fraGradient.Visible);
     sheet.BackColor = White;

@@ -110,14 +110,31 @@ TEST_F(Turning, WithoutAChosenAngleOnlyCloses) {
   click(dialog.cmdInvoegen);
   EXPECT_TRUE(shows(sheet, before));
   EXPECT_EQ(dialogs(), 0);
+  EXPECT_TRUE(same(*studio.UndoPic(0).Picture->bitmap(), before)) << "the step remains";
 }
 
-TEST_F(Turning, CancelledChangesNothing) {
+TEST_F(Turning, OnASheetThatHasGrownShowsTheFormerResultInItsUpperLeftPart) {
+  const Bitmap first = drawNoise(120, 90);
+  click(open().cmdInvoegen);
+  Bitmap held = plain(200, 160, White), former = plain(120, 90, White);
+  effects::rotateInto(first, former, radians(90));
+  raster::blit(held, 0, 0, 120, 90, former, 0, 0);
+  const Bitmap second = drawNoise(200, 160);
+  auto& dialog = open();
+  dialog.cboHoek.picked(2);
+  click(dialog.cmdInvoegen);
+  effects::rotateInto(second, held, radians(45));
+  EXPECT_TRUE(shows(sheet, held));
+}
+
+TEST_F(Turning, CancelledChangesNothingButTheStepIsTaken) {
   const Bitmap before = drawNoise(61, 47);
   auto& dialog = open();
   click(dialog.cmdSluiten);
   EXPECT_EQ(dialogs(), 0);
   EXPECT_TRUE(shows(sheet, before));
+  EXPECT_FALSE(studio.cmdUndo.Enabled);
+  EXPECT_TRUE(same(*studio.UndoPic(0).Picture->bitmap(), before));
 }
 
 TEST_F(Turning, LeavesTheStudioUsableAndGoesWithIt) {

@@ -3,6 +3,7 @@
 
 #include "effects/effect_stage.h"
 #include "effects/frmZoom.h"
+#include "effects/point_effects.h"
 #include "shell/frmStart.h"
 #include "studio/modTekenen.h"
 #include "text/frmTekst.h"
@@ -127,6 +128,34 @@ TEST_F(Magnifier, ClosesAtTheFirstPressOnTheSheetWithAnyTool) {
     move(sheet, 230, 230);
     EXPECT_FALSE(isLoaded<frmZoom>()) << "a move loads it no more";
   }
+}
+
+TEST_F(Magnifier, StandsStillOnceTheSheetIsWipedOrNewUntilItIsOpenedAnew) {
+  for (CommandButton* button : {&studio.cmdClear, &studio.cmdNieuw}) {
+    auto& zoom = open();
+    move(sheet, 300, 250);
+    const Picture held = zoom.imgStretch.Picture;
+    click(*button);
+    move(sheet, 310, 260);
+    EXPECT_EQ(zoom.imgStretch.Picture, held);
+    press(sheet, 310, 260);
+    release(sheet, 310, 260);
+    EXPECT_FALSE(isLoaded<frmZoom>());
+    open();
+    move(sheet, 300, 250);
+    EXPECT_FALSE(the<frmZoom>().imgStretch.Picture->empty());
+    Unload(the<frmZoom>());
+  }
+}
+
+TEST_F(Magnifier, LeavesAnEffectToWorkOnTheSheetAtItsOwnSize) {
+  const Bitmap before = drawNoise(61, 47);
+  auto& zoom = open();
+  slide(zoom.Slider1, 5);
+  move(sheet, 30, 20);
+  clickEffect(studio.cmdOmkeren);
+  EXPECT_TRUE(shows(sheet, effects::inverted(before)));
+  EXPECT_TRUE(zoom.shown());
 }
 
 TEST_F(Magnifier, LoadsTheHiddenTextFormAndSoTurnsThePenBlack) {
