@@ -1,5 +1,6 @@
 // Turning a picture round its middle. Most source points are found in single precision, many at a
-// time; where that could round to another pixel than the exact way, the exact way is taken.
+// time; where that could round to another pixel than the exact way, the exact way is taken. Whole
+// quarter turns come down to plain copies.
 #include "effects/rotation.h"
 
 #include <algorithm>
@@ -7,9 +8,9 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
-#include <vector>
 
 #include "surface/numbers.h"
+#include "surface/raster/draw.h"
 #include "surface/raster/versions.h"
 
 namespace effects {
@@ -43,18 +44,34 @@ inline float missed(float value, float whole) { return std::abs(value - whole); 
 // from all halves to be rounded rightly in single precision, and places in memory are exact.
 constexpr int QuickLimit = 1447;
 
-// The target is painted in blocks of columns, so that the source points of neighbouring rows lie
-// close together, whatever the angle.
-constexpr int BlockSide = 64;
+// The target is painted in blocks: narrow ones, so that the source points of neighbouring rows lie
+// close together whatever the angle, and low ones, so that what was found is still near.
+constexpr int BlockWidth = 160, BlockRows = 4;
+// Places are found in whole groups, also where a row ends within one.
+constexpr int Group = 16;
+static_assert(BlockWidth % Group == 0);
 
-// Source points for target points in a row, from the source's middle: how far on in its memory,
-// and their rows.
+// Whole numbers from first up to, but without, last.
+struct Span {
+  int first, last;
+
+  Span within(Span other) const {
+    const int from = std::clamp(first, other.first, other.last);
+    return {from, std::clamp(last, from, other.last)};
+  }
+  Span opposite() const { return {1 - last, 1 - first}; }
+};
+
+// Source points for target points in a row, from the source's middle: how far on in its memory, how
+// far the point on the other side of the middle, and their rows.
 struct Points {
-  std::array<std::int32_t, BlockSide> distance, Y;
+  std::array<std::int32_t, BlockWidth> distance, opposite, Y;
+  Span sure, open;  ///< in the row, those within the source for sure, and those perhaps within it
 
-  void set(std::size_t at, int x, int y, int width) {
-    distance[at] = y * width + x;
-    Y[at] = y;
+  void set(std::size_t at, Offset to, int width) {
+    distance[at] = to.Q * width + to.P;
+    opposite[at] = -distance[at];
+    Y[at] = to.Q;
   }
 };
 
@@ -63,7 +80,9 @@ struct Points {
 struct Piece {
   int fixed, first, count;
   Points straight, swapped;
-  std::array<std::int32_t, BlockSide> unsure;
+  std::array<std::int32_t, BlockWidth> unsure;
+
+  int groups() const { return (count + Group - 1) / Group; }
 };
 
 // Fills a piece in single precision; true if some of its places are marked as unsure.
@@ -76,7 +95,7 @@ bool findQuickly(Piece& piece, float cosine, float sine, int sourceWidth) {
   // Ten roundings at most, each of 2^-24 of the distance.
   const float sure = 0.5f - std::sqrt(furthest * furthest + ff) * 10 * 0x1p-24f;
   std::int32_t any = 0;
-  for (int i = 0; i < piece.count; ++i) {
+  for (int i = 0; i < piece.groups() * Group; ++i) {
     const auto m = static_cast<float>(piece.first + i);
     const float distance = std::sqrt(m * m + ff);
     const float scale = rounded(distance) / distance;
@@ -88,9 +107,13 @@ bool findQuickly(Piece& piece, float cosine, float sine, int sourceWidth) {
         std::max(std::max(missed(p, P), missed(q, Q)), std::max(missed(p2, P2), missed(q2, Q2)));
     const std::int32_t unsure = worst > sure;
     // Whole numbers below 2^24 within the limit.
-    piece.straight.distance[i] = static_cast<std::int32_t>(Q * width + P);
+    const auto straight = static_cast<std::int32_t>(Q * width + P),
+               swapped = static_cast<std::int32_t>(Q2 - P2 * width);
+    piece.straight.distance[i] = straight;
+    piece.straight.opposite[i] = -straight;
     piece.straight.Y[i] = static_cast<std::int32_t>(Q);
-    piece.swapped.distance[i] = static_cast<std::int32_t>(Q2 - P2 * width);
+    piece.swapped.distance[i] = swapped;
+    piece.swapped.opposite[i] = -swapped;
     piece.swapped.Y[i] = -static_cast<std::int32_t>(P2);
     piece.unsure[i] = unsure;
     any |= unsure;
@@ -98,36 +121,33 @@ bool findQuickly(Piece& piece, float cosine, float sine, int sourceWidth) {
   return any != 0;
 }
 
-// Whole numbers from first up to, but without, last.
-struct Span {
-  int first, last;
-};
-
-// The numbers i with low <= slope * i + offset <= high, for all that are told.
-class Between {
+// The places (i, row) whose source points, not yet rounded, lie in a box around the source's
+// middle.
+class Reach {
  public:
-  void narrow(double slope, double offset, double low, double high) {
-    // The least of slopes is too little to move any of our points.
-    const bool level = std::abs(slope) < 1e-6;
-    if (low > high || (level && (offset < low || offset > high))) last_ = first_ - 1;
-    if (level || last_ < first_) return;
-    const double a = (low - offset) / slope, b = (high - offset) / slope;
-    first_ = std::max(first_, std::min(a, b));
-    last_ = std::min(last_, std::max(a, b));
-  }
+  Reach(double cosine, double sine, double halfWidth, double halfHeight)
+      : tangent_(sine / slope(cosine)),
+        cotangent_(-cosine / slope(sine)),
+        width_(halfWidth / std::abs(slope(cosine))),
+        height_(halfHeight / std::abs(slope(sine))) {}
 
-  /// Those from `lowest` to below `end`.
-  Span whole(int lowest, int end) const {
-    const auto bounded = [&](double value, int least) {
-      return static_cast<int>(
-          std::clamp(value, double(least), std::max(double(least), double(end))));
-    };
-    const int first = bounded(std::ceil(first_), lowest);
-    return {first, bounded(std::floor(last_) + 1, first)};
+  Span of(int row) const {
+    const double x = row * tangent_, y = row * cotangent_;
+    return {firstAbove(std::max(x - width_, y - height_)),
+            firstAbove(std::min(x + width_, y + height_))};
   }
 
  private:
-  double first_ = -1e9, last_ = 1e9;
+  // A slope that is less moves none of our points.
+  static double slope(double value) {
+    return std::copysign(std::max(std::abs(value), 1e-6), value);
+  }
+  // The first whole number above it, or it. No row is as long as the bounds.
+  static int firstAbove(double value) {
+    return nearestInt(std::max(-1e5, std::min(value, 1e5)) + 0.5);
+  }
+
+  double tangent_, cotangent_, width_, height_;
 };
 
 class Rotation {
@@ -144,23 +164,29 @@ class Rotation {
         tx_(half(target.width())),
         ty_(half(target.height())),
         N_(nearestInt(std::max(target.width(), target.height()) / 2.0 - 1)),
-        quick_(N_ <= QuickLimit && source.width() <= 2 * QuickLimit) {}
+        quick_(N_ <= QuickLimit && source.width() <= 2 * QuickLimit),
+        within_(cosine_, sine_, std::min(sx_, source.width() - 1 - sx_) - Slack,
+                std::min(sy_, source.height() - 1 - sy_) - Slack),
+        around_(cosine_, sine_, std::max(sx_, source.width() - 1 - sx_) + Slack,
+                std::max(sy_, source.height() - 1 - sy_) + Slack) {}
 
   void run() {
+    if (isByQuarters()) {
+      turnByQuarters(nearestInt(cosine_), nearestInt(sine_));
+      return;
+    }
     axis();
-    findReaches();
-    for (int left = 0; left <= N_; left += BlockSide) paintBlock(left);
+    for (int left = 0; left <= N_; left += BlockWidth)
+      for (int top = 0; top <= lastRow(); top += BlockRows)
+        paintBlock({left, std::min(left + BlockWidth, N_ + 1)},
+                   {top, std::min(top + BlockRows, lastRow() + 1)});
   }
 
  private:
-  // Where a row and the one opposite to it, turned by half a turn, find points of the source: both
-  // for sure, and each perhaps.
-  struct Reach {
-    Span both, plus, minus;
-  };
+  // Rounding the radius moves a point by up to half a pixel, and rounding the point as much again.
+  static constexpr double Slack = 1.02;
 
   static int half(int size) { return nearestInt(size / 2.0); }
-  bool isVisible(int y) const { return y >= 0 && y < target_.height(); }
   // Beyond it both of two opposite rows lie outside the target.
   int lastRow() const { return std::min(N_, ty_); }
 
@@ -182,49 +208,32 @@ class Rotation {
     }
   }
 
-  // The places i at which the source points lie within the source, give or take some slack.
-  Span places(int direction, int row, double slack, int lowest, int end) const {
-    Between between;
-    between.narrow(direction * cosine_, -direction * row * sine_, -sx_ - slack,
-                   source_.width() - 1 - sx_ + slack);
-    between.narrow(direction * sine_, direction * row * cosine_, -sy_ - slack,
-                   source_.height() - 1 - sy_ + slack);
-    return between.whole(lowest, end);
-  }
-
-  // Rounding the radius moves a point by up to half a pixel, and rounding the point as much again.
-  Reach reach(int row, int plusRow, int minusRow, int lowest) const {
-    constexpr double Slack = 1.02;
-    const int right = isVisible(plusRow) ? std::min(N_ + 1, target_.width() - tx_) : 0;
-    const int left = isVisible(minusRow) ? std::min(N_, tx_) + 1 : 0;
-    const Span plus = places(1, row, -Slack, lowest, right),
-               minus = places(-1, row, -Slack, lowest, left);
-    const int first = std::max(plus.first, minus.first);
-    return {{first, std::max(first, std::min(plus.last, minus.last))},
-            places(1, row, Slack, lowest, right),
-            places(-1, row, Slack, lowest, left)};
-  }
-
-  void findReaches() {
-    for (int row = 0; row <= lastRow(); ++row) {
-      straight_.push_back(reach(row, ty_ + row, ty_ - row, 1));
-      swapped_.push_back(reach(-row, ty_ - row, ty_ + row, 0));
-    }
-  }
-
   // The points of a block with u from 1 on. But for the axes the four quarters lie side by side, so
-  // each is painted along its rows.
-  void paintBlock(int left) {
-    Piece piece;
-    piece.first = left;
-    piece.count = std::min(BlockSide, N_ + 1 - left);
-    for (int row = 0; row <= lastRow(); ++row) {
-      const auto at = static_cast<std::size_t>(row);
-      piece.fixed = row;
-      findPoints(piece);
-      paint(piece, piece.straight, straight_[at], ty_ + row, ty_ - row);
-      if (row > 0) paint(piece, piece.swapped, swapped_[at], ty_ - row, ty_ + row);
-    }
+  // each is painted along its rows; and one after the other, to touch few places of the source at a
+  // time.
+  void paintBlock(Span columns, Span rows) {
+    const auto forEach = [&](auto work) {
+      for (int row = rows.first; row < rows.last; ++row)
+        work(pieces_[static_cast<std::size_t>(row - rows.first)], row);
+    };
+    forEach([&](Piece& piece, int row) { find(piece, columns, row); });
+    forEach([&](Piece& piece, int row) { paint<1>(piece.straight, columns.first, ty_ + row); });
+    forEach([&](Piece& piece, int row) { paint<-1>(piece.straight, columns.first, ty_ - row); });
+    forEach([&](Piece& piece, int row) { paint<1>(piece.swapped, columns.first, ty_ - row); });
+    forEach([&](Piece& piece, int row) { paint<-1>(piece.swapped, columns.first, ty_ + row); });
+  }
+
+  void find(Piece& piece, Span columns, int row) const {
+    const Span straight{std::max(columns.first, 1), columns.last};
+    const Span swapped = row > 0 ? columns : Span{columns.first, columns.first};
+    piece.straight.open = around_.of(row).within(straight);
+    piece.straight.sure = within_.of(row);
+    piece.swapped.open = around_.of(row).opposite().within(swapped);
+    piece.swapped.sure = within_.of(row).opposite();
+    piece.fixed = row;
+    piece.first = columns.first;
+    piece.count = std::max(piece.straight.open.last, piece.swapped.open.last) - columns.first;
+    findPoints(piece);
   }
 
   // In double precision only the rounding of the point's own direction, to 2^-24, is left out.
@@ -244,51 +253,114 @@ class Rotation {
     else if (!findQuickly(piece, static_cast<float>(cosine_), static_cast<float>(sine_),
                           source_.width()))
       return;
-    for (int i = 0; i < piece.count; ++i) {
-      const auto at = static_cast<std::size_t>(i);
-      const int moving = piece.first + i;
-      if (piece.unsure[at] == 0 || (moving == 0 && piece.fixed == 0)) continue;
-      const Offset straight = offset(moving, piece.fixed), swapped = offset(piece.fixed, moving);
-      piece.straight.set(at, straight.P, straight.Q, source_.width());
-      piece.swapped.set(at, swapped.Q, -swapped.P, source_.width());
+    for (int group = 0; group < piece.groups(); ++group) {
+      std::int32_t any = 0;
+      for (int i = group * Group; i < (group + 1) * Group; ++i) any |= piece.unsure[i];
+      if (any == 0) continue;
+      for (int i = group * Group; i < (group + 1) * Group; ++i)
+        if (piece.unsure[i] != 0) findSurely(piece, i);
     }
   }
 
-  // Paints the columns tx + i of a row, and the columns tx - i of the opposite one.
-  void paint(const Piece& piece, const Points& points, const Reach& reach, int plusRow,
-             int minusRow) {
-    const int begin = piece.first, end = piece.first + piece.count;
-    const int first = std::clamp(reach.both.first, begin, end),
-              last = std::clamp(reach.both.last, first, end);
-    if (first < last) {
-      Pixel* const plus = target_.row(plusRow) + tx_ + begin;
-      Pixel* const minus = target_.row(minusRow) + tx_ - begin;
-#pragma GCC unroll 4
-      for (std::ptrdiff_t i = first - begin; i < last - begin; ++i) {
-        const std::ptrdiff_t distance = points.distance[static_cast<std::size_t>(i)];
-        plus[i] = middle_[distance];
-        minus[-i] = middle_[-distance];
-      }
-    }
-    for (const Span rest : {Span{begin, first}, Span{last, end}}) {
-      paintWithin<1>(piece, points, rest, reach.plus, plusRow);
-      paintWithin<-1>(piece, points, rest, reach.minus, minusRow);
+  // The points with u = 0 are the axis's.
+  void findSurely(Piece& piece, int i) const {
+    const auto at = static_cast<std::size_t>(i);
+    const int moving = piece.first + i;
+    if (moving > 0) piece.straight.set(at, offset(moving, piece.fixed), source_.width());
+    if (piece.fixed > 0) {
+      const Offset swapped = offset(piece.fixed, moving);
+      piece.swapped.set(at, {swapped.Q, -swapped.P}, source_.width());
     }
   }
 
-  // The places of a row that belong to both spans, each only if its source point is there. A
-  // direction of -1 means half a turn, for target and source alike.
+  // Paints the columns tx + i of a row. A direction of -1 means half a turn, for target and source
+  // alike: the columns tx - i.
   template <int direction>
-  void paintWithin(const Piece& piece, const Points& points, Span a, Span b, int row) {
-    const int first = std::max(a.first, b.first), last = std::min(a.last, b.last);
-    if (first >= last) return;
-    Pixel* const to = target_.row(row) + tx_;
-    for (int i = first; i < last; ++i) {
-      const auto at = static_cast<std::size_t>(i - piece.first);
+  void paint(const Points& points, int left, int row) {
+    if (row < 0 || row >= target_.height()) return;
+    const Span open = points.open.within({0, direction > 0 ? target_.width() - tx_ : tx_ + 1});
+    if (open.last <= open.first) return;
+    const Span sure = points.sure.within(open);
+    Pixel* const to = target_.row(row) + tx_ + direction * left;
+    paintWithin<direction>(points, to, {open.first - left, sure.first - left});
+    copyAll<direction>(points, to, {sure.first - left, sure.last - left});
+    paintWithin<direction>(points, to, {sure.last - left, open.last - left});
+  }
+
+  // Each has its source point.
+  template <int direction>
+  void copyAll(const Points& points, Pixel* to, Span span) const {
+    const auto& all = direction > 0 ? points.distance : points.opposite;
+    const std::int32_t* distances = all.data() + span.first;
+    const Pixel* const middle = middle_;
+    to += direction * span.first;
+    int count = span.last - span.first;
+    constexpr int Step = 8;
+    for (; count >= Step; count -= Step, to += direction * Step, distances += Step) {
+#pragma GCC unroll 8
+      for (int i = 0; i < Step; ++i) to[direction * i] = middle[std::ptrdiff_t{distances[i]}];
+    }
+    for (int i = 0; i < count; ++i) to[direction * i] = middle[std::ptrdiff_t{distances[i]}];
+  }
+
+  // Each only if its source point is there.
+  template <int direction>
+  void paintWithin(const Points& points, Pixel* to, Span span) const {
+    for (int i = span.first; i < span.last; ++i) {
+      const auto at = static_cast<std::size_t>(i);
       const int Y = points.Y[at], X = points.distance[at] - Y * source_.width();
       if (source_.contains(sx_ + direction * X, sy_ + direction * Y))
         to[direction * i] = middle_[direction * points.distance[at]];
     }
+  }
+
+  // Quarter turns, but for the rounding of the angle and of each point's own direction: together
+  // less than 4e-7. The radius d, a root of a whole number, is rounded by less than 1/2 - 1/(9d),
+  // which leaves every point nearest to its own place as long as d^3 is below 0.11 / 4e-7^2.
+  bool isByQuarters() const {
+    constexpr int Limit = 6000;  // a radius of 8500
+    return N_ <= Limit &&
+           std::abs(cosine_ - nearestInt(cosine_)) + std::abs(sine_ - nearestInt(sine_)) < 3e-7;
+  }
+
+  // The target point (u, v) takes the source point (u c - v s, u s + v c).
+  void turnByQuarters(int c, int s) {
+    const Span width{-sx_, source_.width() - sx_}, height{-sy_, source_.height() - sy_};
+    const Span square{-N_, N_ + 1};
+    const auto turned = [](Span span, int sign) { return sign < 0 ? span.opposite() : span; };
+    const Span across = (s == 0 ? turned(width, c) : turned(height, s))
+                            .within({-tx_, target_.width() - tx_})
+                            .within(square);
+    const Span down = (s == 0 ? turned(height, c) : turned(width, -s))
+                          .within({-ty_, target_.height() - ty_})
+                          .within(square);
+    if (s != 0) {
+      turnByOneQuarter(s, across, down);
+      return;
+    }
+    const Span fromX = turned(across, c), fromY = turned(down, c);
+    const int W = across.last - across.first, H = down.last - down.first;
+    raster::stretch(target_, tx_ + (c > 0 ? across.first : across.last),
+                    ty_ + (c > 0 ? down.first : down.last), c * W, c * H, source_,
+                    sx_ + fromX.first, sy_ + fromY.first, W, H);
+  }
+
+  // Columns of the source become rows: in strips, for which a few rows of the source are read side
+  // by side.
+  void turnByOneQuarter(int s, Span across, Span down) {
+    constexpr int Width = 16;
+    const std::ptrdiff_t step = std::ptrdiff_t{s} * source_.width();
+    for (int left = across.first; left < across.last; left += Width)
+      for (int v = down.first; v < down.last; ++v) {
+        Pixel* const to = target_.row(ty_ + v) + tx_ + left;
+        const Pixel* const from = middle_ + left * step - std::ptrdiff_t{v} * s;
+        if (left + Width <= across.last) {
+#pragma GCC unroll 16
+          for (int i = 0; i < Width; ++i) to[i] = from[i * step];
+        } else {
+          for (int i = 0; i < across.last - left; ++i) to[i] = from[i * step];
+        }
+      }
   }
 
   const Bitmap& source_;
@@ -298,7 +370,8 @@ class Rotation {
   const double cosine_, sine_;
   const int sx_, sy_, tx_, ty_, N_;
   const bool quick_;
-  std::vector<Reach> straight_, swapped_;  // for each row
+  const Reach within_, around_;  // where the source surely is, and where it may be
+  std::array<Piece, BlockRows> pieces_;
 };
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <utility>
 
 #include "effects/pictures.h"
 
@@ -81,6 +82,33 @@ TEST(Rotation, OfASheetTooLargeForSinglePrecisionIsTheLiteralOne) {
   Dice dice(35);
   const Bitmap sheet = noise(dice, 40, 5700);
   expectLiteral(sheet, 40, 5700, 30);
+}
+
+TEST(Rotation, ByQuartersBetweenUnlikeSizesIsTheLiteralOne) {
+  Dice dice(36);
+  for (const auto& [width, height] : {std::pair{37, 52}, {61, 20}, {1, 9}, {150, 3}})
+    for (const double degrees : {90, 180, 270, 360}) {
+      const Bitmap sheet = noise(dice, width, height);
+      expectLiteral(sheet, 40, 40, degrees);
+      expectLiteral(sheet, 97, 18, degrees);
+      expectLiteral(sheet, 2, 61, degrees);
+    }
+}
+
+TEST(Rotation, ByAlmostAQuarterIsTheLiteralOne) {
+  Dice dice(37);
+  const Bitmap sheet = noise(dice, 617, 537);
+  for (const double degrees : {0.00001, 89.9999, 90.00003, 180.02, 269.99995, 359.99})
+    expectLiteral(sheet, 617, 537, degrees);
+}
+
+TEST(Rotation, OfALongStripByAQuarterIsTheLiteralOne) {
+  Dice dice(38);
+  for (const int length : {11999, 12100}) {
+    const Bitmap strip = noise(dice, length, 3);
+    expectLiteral(strip, length, 3, 180);
+    expectLiteral(strip, 3, length, 90);
+  }
 }
 
 TEST(Rotation, TurnsToTheLeft) {
