@@ -1,5 +1,5 @@
 from hand import *
-from limbs import palm, sleeve
+from limbs import bare_arm
 from people import *
 
 p = Page("35", "A mermaid combs her hair on a rock and looks into the mirror that a crab holds up for her; a dolphin leaps")
@@ -31,8 +31,7 @@ p.note("tail fin")
 p.shape("486 442!, 512 412, 520 360, 560 344!, 566 384, 552 414!, 594 424, 604 464!, 556 474, 500 466!")
 
 p.note("far arm reaches for the mirror; body and tail are one sitting shape")
-palm(p, 288, 246, -40, .9, "open", 1)
-p.one(limb("196 220, 244 268, 290 244", 34, 28, 22, flat=True))
+bare_arm(p, "196 220, 244 268, 290 244", 34, 28, 21, turn=-36, size=.92)
 p.one(limb("182 158, 176 204", 34, 34), "136 216, 160 196, 196 196, 212 212, 216 246, 206 282, 208 312, 214 340, 128 340, 136 296")
 p.shape("140 236!, 160 250, 182 238!, 198 248, 214 232!, 212 270, 182 280, 138 272!")
 p.shape("124 322!, 168 334, 212 322!, 262 352, 330 386, 410 416, 488 440!, 500 468!, 440 480, 340 488, 230 480, 150 450, 116 390")
@@ -46,13 +45,12 @@ p.note("head in profile, long hair, the comb goes through it")
 with p.at(192, 118, .98, 6):
     head(p, "side", "", eyes="dot", mouth="smile", brows=4, r=5.8)
     p.shape("40 -34!, 22 -22, 2 -4, -8 16, -6 44, -18 84, -26 130, -46 180, -96 220!, -92 200, -120 184!, -118 120, -96 40, -76 -30, -40 -62, 4 -66, 34 -52")
-    p.lines("-58 -14, -70 30", "-62 150, -74 186")
+    p.line("-58 -14, -70 30")
     p.shape(star(-6, -46, 24))
 with p.at(102, 204, 1.1, 16):
     p.shape("-14 -46!, 4 -46!, 4 46!, -14 46!")
     p.lines("4 -36, 26 -36", "4 -18, 26 -18", "4 0, 26 0", width=5)
-palm(p, 112, 254, -140, 1, "fist", -1)
-p.one(limb("154 224, 166 282, 106 254", 38, 34, 26, flat=True), join=(152, 224, 22))
+bare_arm(p, "154 224, 174 290, 108 252", 38, 30, 21, turn=-140, kind="fist", thumb=-1, join=(154, 226, 23))
 
 p.note("the crab on the rock holds up the mirror")
 with p.at(376, 0):

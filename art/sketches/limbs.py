@@ -3,7 +3,9 @@
 A hand leaves its wrist at (x, y) in the direction `turn` (degrees, 0: to the right, 90: down); `thumb` 1: the thumb stands at the
 left of that direction (above, for a hand that points to the right), -1: at the other side. A hand is 40 long at size 1.
 """
-from hand import along, limb
+import math
+
+from hand import along, limb, points
 
 HANDS = {
     # a mitten with its thumb spread
@@ -17,14 +19,27 @@ HANDS = {
 }
 
 
+def placed(text, x, y, turn, size, thumb):
+    """The points of a hand's outline or crease, where the hand lies on the page."""
+    c, s = math.cos(math.radians(turn)) * size, math.sin(math.radians(turn)) * size
+    return [(x + a * c - b * thumb * s, y + a * s + b * thumb * c, corner) for a, b, corner in points(text)]
+
+
 def palm(p, x, y, turn=0, size=1, kind="open", thumb=1):
     """Draws a hand."""
     outline, creases = HANDS[kind]
-    side = lambda text: ", ".join(f"{w[0]} {float(w[1].strip('!')) * thumb}{'!' if '!' in w[1] else ''}" for w in (q.split() for q in text.split(",")))
-    with p.at(x, y, size, turn):
-        p.shape(side(outline))
-        for crease in creases:
-            p.line(side(crease))
+    p.shape(placed(outline, x, y, turn, size, thumb))
+    for crease in creases:
+        p.line(placed(crease, x, y, turn, size, thumb))
+
+
+def bare_arm(p, way, *widths, turn=0, size=1, kind="open", thumb=1, join=None):
+    """Draws an arm without a sleeve: arm and hand are one outline. `join` as in `Page.one`."""
+    x, y, _, _ = along(way, 9)[-1]
+    outline, creases = HANDS[kind]
+    p.one(limb(way, *widths), placed(outline, x, y, turn, size, thumb), join=join)
+    for crease in creases:
+        p.line(placed(crease, x, y, turn, size, thumb))
 
 
 def sleeve(p, way, *widths, grow=True, steps=9):
