@@ -58,7 +58,8 @@ for x in range(72, 262, 32):
 
 p.note("worker in front, seen from the side, points at the mole")
 palm(p, 480, 468, -52, 1.08, "point", 1)
-p.one(limb("382 434, 380 470", 40, 40), "332 560!, 334 500, 352 464, 388 456, 420 468, 432 500, 436 560!")
+p.shape(limb("384 440, 382 470", 42, 42))
+p.shape("332 560!, 334 500, 352 464, 388 456, 420 468, 432 500, 436 560!")
 with p.at(390, 412, .98, -18):
     head(p, "side", "short", mouth="open", brows=None, r=5.8)
     p.shape("-58 -8!, -50 -50, -8 -76, 34 -60, 44 -26!, 76 -16, 40 -8, 0 -18, -30 -8")
