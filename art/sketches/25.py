@@ -35,8 +35,8 @@ p.shape(scallops("-10 312, 640 312", 10, .2, False) + [(640, 560, True), (-10, 5
 
 p.note("boat heels over: sails, mast")
 with p.at(226, 380, 1, -3):
-    p.shape("10 -330!, 80 -226, 130 -154, 184 -86!, 110 -96, 10 -104!")
-    p.shape(heart(50, -208, 22))
+    p.shape("10 -330!, 66 -240, 104 -176, 130 -118!, 80 -110, 10 -112!")
+    p.shape(heart(44, -206, 20))
     main = "6 -330!, -62 -262, -128 -180, -170 -116!, -90 -98, 6 -98!"
     p.shape(main)
     with p.within(main):
