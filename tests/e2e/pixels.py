@@ -89,14 +89,14 @@ def halves(width, height):
     return Picture(width, height, rows)
 
 
-def read_screen(path):
-    """The virtual screen, from the file in which the X server keeps it (32 bits a pixel, blue first)."""
+def read_screen(path, columns=None):
+    """The virtual screen, or some columns at its left, from the file in which the X server keeps it (32 bits a pixel, blue first)."""
     data = pathlib.Path(path).read_bytes()
     head, width, height, stride = (struct.unpack_from(">I", data, at)[0] for at in (0, 16, 20, 48))
     depth, colours = struct.unpack_from(">I", data, 44)[0], struct.unpack_from(">I", data, 76)[0]
     if depth != 32:
         raise ValueError(f"a screen of {depth} bits a pixel")
-    start = head + 12 * colours
+    start, width = head + 12 * colours, columns or width
     rows = []
     for y in range(height):
         bgrx = data[start + y * stride:start + y * stride + 4 * width]

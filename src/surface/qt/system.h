@@ -29,9 +29,10 @@ class NothingKept {
   std::map<QString, QVariant> former_;  ///< what other programs had written there
 };
 
-/// Runs `act` in the event loop when the system asks the program to end (SIGTERM, SIGHUP, SIGINT),
-/// once. It has two seconds; then the program ends in the middle of it, as if it had ended well.
-/// Needs a running application. Where there are no such signals nothing ever happens.
+/// Runs `act` once when the system wants the program gone and nobody can be asked: SIGTERM, SIGHUP
+/// or SIGINT; on Windows the forced end of a session, which waits for it. On the others it runs in
+/// the event loop and has two seconds; then the program ends in the middle of it, as if it had
+/// ended well. Needs a running application.
 void whenAskedToEnd(std::function<void()> act);
 
 }  // namespace surface::qt

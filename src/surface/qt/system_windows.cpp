@@ -4,12 +4,15 @@
 // It needs the types of the one above.
 #include <shellapi.h>
 
+#include <QAbstractNativeEventFilter>
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QSettings>
 #include <QString>
 #include <QtGlobal>
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "surface/qt/system.h"
 
@@ -34,6 +37,25 @@ std::string commandLine() {
   for (int i = 1; words && i < count; ++i) all += QString::fromWCharArray(words.get()[i]);
   return all.join(' ').toStdString();
 }
+
+// A window hears of it, inside of whatever loop runs just then. What is not forced is left to the
+// toolkit, which asks for a question to the child.
+class EndOfSession : public QAbstractNativeEventFilter {
+ public:
+  explicit EndOfSession(std::function<void()> act) : act_(std::move(act)) {}
+
+  bool nativeEventFilter(const QByteArray&, void* message, qintptr* result) override {
+    const MSG& told = *static_cast<const MSG*>(message);
+    if (told.message != WM_QUERYENDSESSION || !(told.lParam & ENDSESSION_CRITICAL)) return false;
+    *result = TRUE;
+    // Every window is told.
+    if (act_) std::exchange(act_, nullptr)();
+    return true;
+  }
+
+ private:
+  std::function<void()> act_;
+};
 
 }  // namespace
 
@@ -62,6 +84,9 @@ NothingKept::~NothingKept() {
   RegDeleteKeyW(HKEY_CURRENT_USER, L"Software\\QtProject");
 }
 
-void whenAskedToEnd(std::function<void()>) {}
+void whenAskedToEnd(std::function<void()> act) {
+  static EndOfSession forced(std::move(act));
+  QCoreApplication::instance()->installNativeEventFilter(&forced);
+}
 
 }  // namespace surface::qt
