@@ -48,9 +48,10 @@ class Scale {
   double pixelsPerUnitX() const { return perX_; }
   double pixelsPerUnitY() const { return perY_; }
 
-  /// A position, with its fraction of a pixel.
-  double toPixelX(float x) const { return (x - user_.Origin.X) * perX_; }
-  double toPixelY(float y) const { return (y - user_.Origin.Y) * perY_; }
+  /// A position, with its fraction of a pixel. In double precision from the first step on: a
+  /// distance from the origin rounded to single may end in the pixel beside.
+  double toPixelX(double x) const { return (x - user_.Origin.X) * perX_; }
+  double toPixelY(double y) const { return (y - user_.Origin.Y) * perY_; }
   float fromPixelX(double pixel) const {
     return static_cast<float>(pixel / perX_ + user_.Origin.X);
   }
