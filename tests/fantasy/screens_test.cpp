@@ -102,6 +102,9 @@ TEST_F(FantasyScreens, EachButtonOfTheMenuOpensItsScreenAndSluitenComesBackToAFr
     const auto menus = loaded<frmFantasie>().size();
     click(menu->*way.button);
     EXPECT_EQ(loaded<frmFantasie>().size(), way.menuStays ? menus : menus - 1);
+    if (way.menuStays) {
+      EXPECT_TRUE(menu->shown()) << "it lies underneath";
+    }
     Form* screen = way.screen();
     ASSERT_NE(screen, nullptr);
     EXPECT_TRUE(screen->shown());
@@ -112,6 +115,21 @@ TEST_F(FantasyScreens, EachButtonOfTheMenuOpensItsScreenAndSluitenComesBackToAFr
     EXPECT_EQ(loaded<frmFantasie>().size(), way.menuStays ? menus + 1 : menus);
     EXPECT_TRUE(loaded<frmFantasie>().back()->shown());
     EXPECT_FALSE(nextTimerDue().has_value()) << "a timer still runs";
+  }
+}
+
+TEST_F(FantasyScreens, OfEachThereIsOneThatAnOldMenuFindsAgainButTheWindIsNewEachTime) {
+  auto& oldMenu = *only<frmFantasie>();
+  click(oldMenu.Command3);
+  dispatch([&] { oldMenu.Command3.Click(); });
+  EXPECT_EQ(loaded<frmFantasie7>().size(), 1u);
+  EXPECT_TRUE(isLoaded<frmFantasie7>());
+  dispatch([&] { showNew<frmFantasie>().cmdFantasie.Click(); });
+  EXPECT_TRUE(isLoaded<frmFantasie3>());
+  for (const std::size_t winds : {1u, 2u}) {
+    dispatch([&] { showNew<frmFantasie>().cmdTekenen1.Click(); });
+    EXPECT_EQ(loaded<frmFantasie1>().size(), winds);
+    EXPECT_FALSE(isLoaded<frmFantasie1>());
   }
 }
 

@@ -110,6 +110,27 @@ TEST_F(WormsScreen, AtAnEdgeTheWormTurnsWithOneDiscOfEachKind) {
   EXPECT_TRUE(screen.Timer1.Enabled && !screen.Timer2.Enabled);
 }
 
+TEST_F(WormsScreen, AtATurnTheDiscOfTheOtherWayIsDrawnFirst) {
+  const auto widths = [this](TimerControl& timer) {
+    const auto drawn = script::traceOf([&] { dispatch([&] { timer.Timer(); }); });
+    EXPECT_EQ(drawn.size(), 2u);
+    return std::pair(drawn.front().place[2], drawn.back().place[2]);
+  };
+  screen.worm.wormX = 11895;
+  screen.worm.wormY = 4000;
+  EXPECT_EQ(widths(screen.Timer1), std::pair(33.0, 27.0));
+  screen.worm.wormX = 0;
+  EXPECT_EQ(widths(screen.Timer2), std::pair(27.0, 33.0));
+}
+
+TEST_F(WormsScreen, AStartBeyondSixteenBitsEndsInTheErrorReport) {
+  advance(20'000);
+  ScanRij = 30'000;
+  click(screen.cmdWorm2);
+  EXPECT_NE(takeErrorReport(), std::nullopt);
+  EXPECT_TRUE(ended());
+}
+
 TEST_F(WormsScreen, ThePictureCountsWithItsOuterSizeAndKeepsItWhateverTheWindows) {
   dispatch([&] { screen.windowResized(1920, 1080); });
   EXPECT_EQ(screen.Picture1.Width, 11895);
@@ -237,6 +258,67 @@ TEST_F(WheelScreen, PauzeBecomesVerderAndAStopWhilePausedNamesItPause) {
   EXPECT_FALSE(screen.cmdPauze.Enabled);
   EXPECT_EQ(screen.cmdStart.Caption, "Start");
   EXPECT_EQ(screen.wielToestand, frmFantasie6::Gestopt);
+}
+
+TEST_F(WheelScreen, AStopWhilePausedLeavesThePinkTheHiddenSpeedAndTheJumps) {
+  click(screen.cmdKleurrijk);
+  screen.HScroll2.Value = 20;
+  click(screen.cmdPauze);
+  click(screen.cmdStart);
+  EXPECT_EQ(screen.cmdStart.BackColor, 0xFF80FF);
+  EXPECT_EQ(screen.cmdPauze.BackColor, 0xFF80FF);
+  EXPECT_FALSE(screen.Slider1.Visible);
+  EXPECT_FALSE(nextTimerDue().has_value());
+  click(screen.cmdStart);
+  EXPECT_EQ(screen.wiel.kleurStap, 255);
+}
+
+TEST_F(WheelScreen, StartShowsTheShrinkBarThatTheSpeedHasHidden) {
+  screen.Slider1.scrolled(2);
+  EXPECT_FALSE(screen.HScroll2.Visible || screen.lblVerklein.Visible);
+  click(screen.cmdStart);
+  EXPECT_TRUE(screen.HScroll2.Visible && screen.lblVerklein.Visible);
+  EXPECT_TRUE(screen.Slider1.Visible);
+}
+
+TEST_F(WheelScreen, ASecondRunGoesOnOnTheColourCircleAndItsFirstLineDoesNotShow) {
+  click(screen.cmdStart);
+  advance(100 * 130);
+  EXPECT_EQ(screen.wiel.kleurFase, 2);
+  click(screen.cmdStart);
+  click(screen.cmdStart);
+  EXPECT_EQ(screen.wiel.kleurFase, 2);
+  EXPECT_EQ(screen.wiel.hoek, 0);
+  const auto empty = screen.Image();
+  advance(100);
+  EXPECT_EQ(screen.wiel.hoek, 3);
+  const auto pixels = screen.bitmap();
+  for (int y = 0; y < pixels->height(); ++y)
+    for (int x = 0; x < pixels->width(); ++x)
+      ASSERT_EQ(pixels->at(x, y), empty.bitmap()->at(x, y)) << x << ", " << y;
+}
+
+TEST_F(WheelScreen, KleurrijkWhileItTurnsStartsAllOver) {
+  screen.HScroll4.Value = 1024;
+  screen.HScroll2.Value = 20;
+  click(screen.cmdStart);
+  advance(3000);
+  click(screen.cmdKleurrijk);
+  EXPECT_EQ(screen.wielToestand, frmFantasie6::Bezig);
+  EXPECT_EQ(screen.HScroll4.Value, 0);
+  EXPECT_EQ(screen.HScroll2.Value, 0);
+  EXPECT_EQ(screen.txtBeginkleur.BackColor, 0x0000FF);
+  EXPECT_EQ(screen.wiel.straal, 3900);
+  EXPECT_EQ(screen.wiel.huidigRood, 255);
+  EXPECT_EQ(screen.Timer1.Interval, 100);
+  EXPECT_EQ(screen.cmdStart.Caption, "Stop");
+  EXPECT_FALSE(screen.holdsDrawing());
+}
+
+TEST_F(WheelScreen, AFractionOfAShrinkGoesToTheEvenNeighbour) {
+  screen.txtKleiner.Text = "12.5";
+  EXPECT_EQ(screen.HScroll2.Value, 12);
+  EXPECT_EQ(screen.txtKleiner.Text, "12");
 }
 
 TEST_F(WheelScreen, TheShrinkBarHidesTheSpeedAndTheSpeedTheShrinkBar) {

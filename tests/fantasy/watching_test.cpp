@@ -1,4 +1,7 @@
 // The screens that a child watches: fireworks, kaleidoscope, lightning, stars, flower and wind.
+#include <algorithm>
+#include <cmath>
+
 #include "fantasy/frmFantasie1.h"
 #include "fantasy/frmFantasie2.h"
 #include "fantasy/frmFantasie3.h"
@@ -43,7 +46,7 @@ TEST_F(FireworksScreen, LaunchesTheFirstBurstAfterATenthOfASecondAndGoesOnForeve
   EXPECT_EQ(painted(screen.picVuurwerk), 0);
   advance(100);
   EXPECT_GT(painted(screen.picVuurwerk), 100);
-  advance(600'000);
+  advance(60'000);
   EXPECT_GT(painted(screen.picVuurwerk), 1000);
 }
 
@@ -79,6 +82,35 @@ TEST_F(FireworksScreen, TheQuietTempoIsSlowerThanTheOneItOpenedWith) {
   EXPECT_EQ(screen.Timer1.Interval, 10);
   EXPECT_EQ(screen.Timer2.Interval, 200);
   expectPair(screen.cmdMeer, screen.cmdMinder);
+}
+
+TEST_F(FireworksScreen, ARisingSparkLeavesATrailThatStaysWhenItHasGone) {
+  auto& sky = screen.vuurwerk;
+  screen.Timer2.Enabled = false;
+  sky.vonkActief[1] = true;
+  sky.vonkHoek[1] = 90;
+  sky.vonkSnelheid[1] = 250;
+  sky.vonkX[1] = 4000;
+  sky.vonkY[1] = 8295;
+  sky.vonkKleur[1] = {255, 200, 150};
+  advance(1000);
+  EXPECT_FALSE(sky.vonkActief[1]);
+  EXPECT_GT(painted(screen.picVuurwerk), 100);
+}
+
+TEST_F(FireworksScreen, HevigAndRustigPutTheSizesBackAndLeaveTheSparksInFlight) {
+  for (CommandButton* button : {&screen.cmdMeer, &screen.cmdMinder}) {
+    advance(1000);
+    auto& sky = screen.vuurwerk;
+    sky.hoekSpreiding = sky.valSpreiding = sky.snelheidSpreiding = sky.vonkMaat = 1;
+    const auto places = sky.vonkX;
+    click(*button);
+    EXPECT_EQ(sky.hoekSpreiding, 5);
+    EXPECT_EQ(sky.valSpreiding, 60);
+    EXPECT_EQ(sky.snelheidSpreiding, 30);
+    EXPECT_EQ(sky.vonkMaat, 40);
+    EXPECT_EQ(sky.vonkX, places);
+  }
 }
 
 class KaleidoscopeScreen : public Watching<frmFantasie2> {};
@@ -140,7 +172,40 @@ TEST_F(KaleidoscopeScreen, NachtIsBlackAndGroterGreyAgain) {
   EXPECT_EQ(screen.Point({15, 15}), 0xE0E0E0);
 }
 
+TEST_F(KaleidoscopeScreen, APictureBegunByAButtonLivesForTheRestOfTheThirtySeconds) {
+  advance(20'000);
+  click(screen.cmdVergroten);
+  advance(9'990);
+  EXPECT_GT(screen.modKaleidos.lijnTeller, 3'000);
+  advance(100);
+  EXPECT_LT(screen.modKaleidos.lijnTeller, 500);
+}
+
+TEST_F(KaleidoscopeScreen, EnormWipesThePictureAndEndsTheNight) {
+  click(screen.cmdNacht);
+  advance(500);
+  click(screen.cmdHoekmarkering);
+  EXPECT_EQ(screen.BackColor, 0xE0E0E0);
+  EXPECT_EQ(painted(screen), 0);
+}
+
 class LightningScreen : public Watching<frmFantasie8> {};
+
+TEST_F(LightningScreen, DrawsItsKindFirstThenThePlaceThenTheWayAndTheStepOfEachOuterRow) {
+  seedRandom(9);
+  Random told;
+  told.fix(9);
+  advance(10);
+  EXPECT_EQ(screen.bliksem.bliksemSoort, std::floor(told.Rnd() * 5.0));
+  EXPECT_EQ(static_cast<float>(screen.bliksem.PosL.size()), screen.Height / 15);
+  double x = std::floor(screen.Width * static_cast<double>(told.Rnd()) + 1);
+  for (const float place : screen.bliksem.PosL) {
+    const bool left = told.Rnd() < 0.5f;
+    const double step = std::floor(told.Rnd() * 25.0) + 1;
+    x += left ? -step : step;
+    ASSERT_EQ(place, static_cast<float>(x));
+  }
+}
 
 TEST_F(LightningScreen, GoesThroughItsThreeStagesInAStrictCycle) {
   for (int bolt = 0; bolt < 20; ++bolt) {
@@ -165,6 +230,13 @@ TEST_F(StarsScreen, AreSpreadOverTheWindowFromTheFirstTickOn) {
   EXPECT_EQ(screen.sterren.sterRij, screen.innerPixels().height() / 40 + 1);
   EXPECT_GE(painted(screen), 35);
   EXPECT_LE(painted(screen), 41);
+}
+
+TEST_F(StarsScreen, TheFirstPlacesUseTheWholeWidthOfTheWindow) {
+  const auto& places = screen.sterren.sterX;
+  const int width = screen.innerPixels().width();
+  EXPECT_LT(*std::min_element(places.begin(), places.end()), width / 8);
+  EXPECT_GT(*std::max_element(places.begin(), places.end()), width * 7 / 8);
 }
 
 TEST_F(StarsScreen, SpreadAnewInAWindowOfAnotherHeight) {
@@ -213,8 +285,10 @@ TEST_F(FlowerScreen, SnellerStartsTheFlowerOverAtTheFastTempo) {
   expectPair(screen.cmdSnel, screen.cmdTraag);
 }
 
-TEST_F(FlowerScreen, MiddagLastsUntilTheNextTempo) {
+TEST_F(FlowerScreen, MiddagStartsTheFlowerOverAndLastsUntilTheNextTempo) {
+  advance(300);
   click(screen.cmdMiddag);
+  EXPECT_EQ(painted(screen), 0);
   EXPECT_EQ(screen.BackColor, 0xC0FFFF);
   EXPECT_EQ(screen.lblBloem.BackColor, 0xC0FFFF);
   click(screen.cmdSnel);
