@@ -48,10 +48,10 @@ p.line("362 270, 370 318")
 
 p.note("the vet, in profile: the far arm reaches out to carry the paw")
 with p.at(500, 0, flip=True):
-    hand(p, 82, 316, -6, "flat", -1, 1.06, lines=False)
+    hand(p, 84, 314, -6, "flat", -1, 1.06, lines=False)
     p.shape(limb("24 262, 48 310, 84 315", 50, 42, 34, flat=True))
     p.shape(limb("-6 176, -14 226", 34, 38, flat=True))
-    p.shape("-46 228, -14 212!, 10 212!, 36 236, 42 290, 50 420!, -96 420!, -88 320, -74 250")
+    p.shape("-46 228, -14 212!, 10 212!, 36 236, 42 290, 46 560!, -100 560!, -92 330, -76 250")
     p.shape("-14 210!, 10 210!, 20 232, 40 262!, 10 256, -10 236")
     with p.at(0, 150, 1.06, 12):
         head(p, "side", "bun", mouth="smile", brows=4)
@@ -60,9 +60,9 @@ with p.at(500, 0, flip=True):
         p.eye(28, -2, 4.6)
 
 p.note("the bandage runs through her near hand to the kitten")
-p.tube("362 314, 368 346, 412 352, 416 384, 436 408, 470 402, 510 420", 21)
-hand(p, 434, 356, 186, "fist", 1, 1)
-p.one(limb("522 258, 534 320, 506 354, 432 354", 58, 54, 46, 38, flat=True), join=(522, 252, 29))
+p.tube("368 316, 368 350, 388 376, 414 378, 420 412, 452 430, 510 420", 21)
+hand(p, 438, 376, 184, "fist", 1, 1.05)
+p.one(limb("534 262, 540 334, 508 376, 436 376", 54, 54, 46, 38, flat=True), join=(536, 256, 28))
 
 p.note("the girl's arm and hand on the dog's back")
 hand(p, 222, 300, 14, "open", -1, 1.06)
