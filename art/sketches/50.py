@@ -72,7 +72,7 @@ with p.at(190, 152, 1.08, 12):
     p.shape(oval(20, 30, 8, 6), 3)
     p.shape(oval(21, 8, 13, 12))
     p.shape("-42 -26!, -16 -112!, 38 -36!, 0 -26")
-    p.line("-32 -56, -6 -56, 20 -68")
+    p.line("-31 -56, -8 -56, 12 -68")
     p.shape(scallops(oval(-16, -112, 14), 6, .4))
 
 p.note("the bear cub, nose against the shoe")
