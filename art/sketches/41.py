@@ -5,7 +5,6 @@ from people import *
 p = Page("41", "At the vet: the dog gives its paw to be bandaged; the kitten has rolled itself into the other end")
 
 p.note("room")
-p.line("-10 300, 640 300", 4)
 p.shape(box(30, 26, 112, 96))
 p.shape("52 60, 62 54, 72 68, 100 60, 108 48, 120 56, 116 66, 124 76, 114 84, 104 78, 76 88, 68 98, 56 94, 58 84, 48 74", 3)
 p.shape(box(214, -10, 130, 96))
@@ -15,7 +14,7 @@ p.shape("206 86!, 352 86!, 352 100!, 206 100!")
 p.note("girl behind the table, her arm round the dog")
 with p.at(110, 196):
     p.shape(limb("-4 40, -8 100", 32, 36, flat=True))
-    p.shape("-26 76!, -6 86, 14 74!, 44 92, 66 130, 66 230!, -66 230!, -64 140, -52 94")
+    p.shape("-28 76!, -6 86, 14 74!, 44 88, 62 112, 66 230!, -66 230!, -64 140, -52 94")
     with p.at(6, 4, 1.04, 12):
         head(p, "34", "tails", eyes="white", look=(1, 1), mouth="frown", brows=9, r=4.4)
 
@@ -29,7 +28,7 @@ p.shape(limb("318 320, 336 366, 334 414", 44, 36, 32, flat=True))
 p.shape("318 412!, 318 400, 340 396, 360 402, 364 414, 350 422, 324 422")
 p.one("268 214, 226 262, 180 320, 170 372, 186 408, 222 420, 300 420, 326 352, 346 292, 346 226, 310 210",
       limb("200 404, 226 412, 252 414", 34, 30), limb("290 300, 298 366, 296 408", 64, 46, 36), oval(306, 414, 27, 14), oval(246, 413, 30, 14))
-p.line("196 346, 232 330, 264 352, 266 392")
+p.line("214 346, 242 336, 264 354, 266 392")
 p.one(oval(302, 176, 60, 54), oval(356, 200, 38, 28), oval(328, 208, 30, 26))
 p.shape("314 128, 340 142, 346 176, 328 190, 308 176, 304 148", 3)
 p.eye(330, 164, 6)
@@ -66,7 +65,7 @@ p.one(limb("534 262, 540 334, 508 376, 436 376", 54, 54, 46, 38, flat=True), joi
 
 p.note("the girl's arm and hand on the dog's back")
 hand(p, 222, 300, 14, "open", -1, 1.06)
-p.one(limb("140 296, 176 316, 224 300", 50, 44, 36, flat=True), join=(138, 294, 25))
+p.one(limb("138 304, 176 318, 224 300", 46, 42, 36, flat=True), join=(134, 304, 25))
 
 p.note("the kitten in its basket, rolled in bandage")
 with p.at(536, 446):
