@@ -17,7 +17,7 @@ p.note("girl behind the cake, the balloon's string in her hand")
 with p.at(462, 182):
     p.shape(limb("4 36, 6 100", 34, 36, flat=True))
     p.shape("-34 92, -10 78!, 8 86, 26 76!, 58 82, 80 110, 80 290!, -64 290!, -58 130")
-    with p.at(0, 0, .98, 8, flip=True):
+    with p.at(0, 7, .98, 8, flip=True):
         head(p, "34", "tails", eyes="happy", mouth="open", brows=None)
         p.shape("-34 -42!, 0 -132!, 30 -46!, 0 -36")
         p.shape(oval(0, -130, 12))

@@ -18,7 +18,7 @@ p.note("child leaning over, three quarters, behind the table")
 with p.at(218, 150):
     p.shape(limb("-2 44, -6 96", 34, 38, flat=True))
     p.shape("-72 180, -64 114, -30 82!, -6 96, 18 82!, 40 90, 46 200!, -72 200!")
-    with p.at(6, 8, 1, 14):
+    with p.at(6, 15, 1, 14):
         head(p, "34", "curly", eyes="dot", mouth="open", brows=2)
 p.shape(heart(198, 276, 18))
 
@@ -26,7 +26,7 @@ p.note("child at the right shows the portrait")
 with p.at(500, 150, flip=True):
     p.shape(limb("-4 40, -6 92", 32, 36, flat=True))
     p.shape("-64 110, -30 74!, -6 88, 16 74!, 46 96, 58 230!, -70 230!")
-    with p.at(0, 0, .98, -6):
+    with p.at(0, 9, .98, -6):
         head(p, "34", "tuft", eyes="happy", mouth="smile")
 
 p.note("table, its corner towards us")
@@ -60,7 +60,7 @@ p.one(limb("536 264, 520 312, 486 296, 454 268", 46, 46, 42, 36, flat=True), joi
 p.note("child in profile, tongue out, near at the left")
 with p.at(86, 274):
     p.shape(limb("-14 40, -24 100", 44, 50, flat=True))
-    with p.at(-10, -8, 1.14, 10):
+    with p.at(-10, 2, 1.14, 10):
         head(p, "side", "pony", mouth="tongue", r=5, brows=None)
     p.shape("-100 120, -56 80!, -20 96, 12 74!, 30 120, 24 300, -140 300, -120 170")
     p.shape("-52 74!, -20 92, 16 66!, 26 84!, -16 112, -60 94!")

@@ -30,7 +30,7 @@ with p.at(262, 146):
     p.shape(suit)
     with p.within(suit):
         p.lines("-90 128, 60 120", "-90 166, 60 158", width=4)
-    with p.at(26, -12, 1.02, 10):
+    with p.at(24, -3, 1.02, 10):
         head(p, "side", "pony", mouth="open")
         p.shape("48 -16!, 20 -34, -20 -28, -54 -2!, -62 -30, -40 -60, 4 -70, 36 -52")
     p.shape(limb("74 78, 122 146", 16, 16))
