@@ -8,7 +8,6 @@ p = Page("46", "Feeding the animals: the hens run for the grain, the goat eats t
 p.note("barn and field far away")
 p.shape("-10 214!, 160 190, 360 206, 640 180!, 640 560!, -10 560!")
 p.shape("36 204!, 36 100!, 92 46!, 172 46!, 226 100!, 226 200!")
-p.line("36 100, 226 100", 4)
 
 p.note("donkey behind the fence")
 with p.at(436, 130):

@@ -1,6 +1,7 @@
 from hand import *
 from hands import hand
 from people import *
+from beasts import hoof
 
 p = Page("49", "In the camp: the child blows on the hot spoon; behind its back the raccoon walks off with the corn, the horse sees it all")
 
@@ -16,6 +17,8 @@ p.note("horse looks round")
 with p.at(176, 168):
     p.shape(limb("-66 56, -62 110, -56 152", 38, 24, 22, flat=True))
     p.shape(limb("20 56, 4 96, -6 140", 38, 26, 20, flat=True))
+    hoof(p, -56, 148, 11, 14)
+    hoof(p, -5, 136, 11, 14, 4)
     p.shape("-106 -12!, -142 -4, -156 46, -142 96!, -118 66, -100 32!")
     p.one(oval(-20, 14, 92, 50), limb("46 4, 80 -42, 98 -84", 92, 62, 46), limb("96 -90, 130 -70, 156 -48", 50, 40, 36),
           limb("-78 24, -84 72, -112 104, -104 146", 74, 42, 24, 22, flat=True), limb("54 30, 74 84, 62 112, 68 142", 54, 34, 26, 24, flat=True))

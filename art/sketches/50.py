@@ -8,8 +8,8 @@ p.note("street")
 p.shape("-10 452!, 300 420, 630 366!, 630 560!, -10 560!")
 
 p.note("two lines of bunting")
-bunting(p, "-10 40, 100 58, 220 48, 330 -40", 3, 52)
-bunting(p, "340 -30, 410 40, 520 66, 640 40", 3, 52)
+bunting(p, "-10 40, 100 58, 220 48, 330 -40", 2, 56)
+bunting(p, "340 -30, 410 40, 520 66, 640 40", 2, 56)
 
 p.note("princess, small and behind, in profile, throwing a streamer")
 p.tube("416 188, 386 174, 386 142, 414 126, 404 96, 366 94, 336 112, 306 104", 13)
