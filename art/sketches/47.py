@@ -5,7 +5,7 @@ from people import *
 p = Page("47", "A strong castle: the knight rides to the drawbridge, the king waves from the tower, a goose runs ahead")
 
 p.note("hill and path")
-p.shape("-10 250!, 130 200, 300 230, 440 330, 500 420, 640 560!, 640 560!, -10 560!")
+p.shape("-10 250!, 130 200, 300 230, 640 210!, 640 560!, -10 560!")
 
 p.note("castle seen from below")
 battlement = lambda x, y, w, h, n: f"{x} {y + h}!, {x} {y}!" + "".join(
