@@ -47,7 +47,7 @@ with p.at(240, 150, flip=True):
         p.shape(oval(0, 0, 40, 12))
     hand(p, 36, 142, 8, "fist", -1, 1, lines=False)
 
-    p.one(limb("-18 90, -22 134, 0 144, 40 142", 46, 42, 38, 34, flat=True), join=(-18, 84, 23))
+    p.one(limb("-12 92, -16 132, 4 143, 40 142", 38, 40, 38, 34, flat=True), join=(-12, 86, 20))
 for x, y in ((128, 282), (96, 292), (122, 314)):
     p.line(f"{x} {y}, {x - 4} {y + 8}", 4)
 
