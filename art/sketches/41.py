@@ -1,5 +1,5 @@
 from hand import *
-from hands import hand
+from limbs import palm
 from people import *
 
 p = Page("41", "At the vet: the dog gives its paw to be bandaged; the kitten has rolled itself into the other end")
@@ -46,7 +46,7 @@ p.line("362 270, 370 318")
 
 p.note("the vet, in profile: the far arm reaches out to carry the paw")
 with p.at(500, 0, flip=True):
-    hand(p, 84, 314, -6, "flat", -1, 1.06, lines=False)
+    palm(p, 84, 314, -6, 1.06, "flat")
     p.shape(limb("24 262, 48 310, 84 315", 50, 42, 34, flat=True))
     p.shape(limb("-6 176, -14 226", 34, 38, flat=True))
     p.shape("-46 228, -14 212!, 10 212!, 36 236, 42 290, 46 560!, -100 560!, -92 330, -76 250")
@@ -59,11 +59,11 @@ with p.at(500, 0, flip=True):
 
 p.note("the bandage runs through her near hand to the kitten")
 p.tube("368 316, 368 350, 388 376, 414 378, 420 412, 452 430, 510 420", 21)
-hand(p, 438, 376, 184, "fist", 1, 1.05)
+palm(p, 438, 376, 184, 1.05, "fist", -1)
 p.one(limb("534 262, 540 334, 508 376, 436 376", 54, 54, 46, 38, flat=True), join=(536, 256, 28))
 
 p.note("the girl's arm and hand on the dog's back")
-hand(p, 222, 300, 14, "open", -1, 1.06)
+palm(p, 222, 300, 14, 1.06, "wave")
 p.one(limb("138 304, 176 318, 224 300", 46, 42, 36, flat=True), join=(134, 304, 25))
 
 p.note("the kitten in its basket, rolled in bandage")

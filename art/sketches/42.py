@@ -1,5 +1,5 @@
 from hand import *
-from hands import hand
+from limbs import palm
 from people import *
 
 p = Page("42", "Football: the keeper flies, the ball passes just beyond the fingers; the dog is the other goal post")
@@ -19,7 +19,7 @@ p.line("-10 488, 560 436", 4)
 
 p.note("kicker, smaller, weight on one leg, the other still in the air")
 with p.at(104, 290, .8):
-    hand(p, -70, 92, 150, "open", 1, .9)
+    palm(p, -70, 92, 150, .9, "wave", -1)
     p.shape(limb("-18 34, -44 66, -72 92", 38, 34, 32, flat=True))
     p.shape(limb("-6 128, -26 184, -20 236", 46, 38, 32, flat=True))
     with p.within(limb("-6 128, -26 184, -20 236", 46, 38, 32, flat=True)):
@@ -36,12 +36,12 @@ with p.at(104, 290, .8):
     p.shape("-46 110!, -10 120, 28 112!, 58 112, 70 126!, 62 168!, 30 170, 8 160!, 6 176!, -48 172!, -50 140")
     with p.at(6, -42, .98, -24):
         head(p, "side", "curly", mouth="open", brows=8)
-    hand(p, 72, 46, -48, "open", -1, .9)
+    palm(p, 72, 46, -48, .9, "wave")
     p.one(limb("-14 42, 14 76, 74 46", 40, 38, 32, flat=True), join=(-16, 40, 21))
 
 p.note("keeper stretched out in the air, head between the arms")
 with p.at(20, 22, .9):
-    hand(p, 238, 112, 202, "glove", 1, .94)
+    palm(p, 238, 112, 202, .94, "glove", -1)
     p.shape(limb("340 168, 296 140, 236 112", 36, 40, 36, flat=True))
     p.one(limb("510 240, 574 232, 618 204", 54, 44, 36, flat=True))
     with p.within(limb("510 240, 574 232, 618 204", 54, 44, 36, flat=True)):
@@ -62,7 +62,7 @@ with p.at(20, 22, .9):
     p.shape("376 200, 346 186, 330 172, 318 196, 340 218, 362 226")
     with p.at(304, 152, .96, -2, flip=True):
         head(p, "side", "tuft", mouth="flat", brows=8)
-    hand(p, 226, 190, 194, "glove", 1, .98)
+    palm(p, 226, 190, 194, .98, "glove", -1)
     p.one(limb("384 226, 310 230, 224 190", 54, 50, 40, flat=True), join=(390, 226, 30))
 
 p.note("ball just beyond the fingers")

@@ -1,5 +1,5 @@
 from hand import *
-from hands import hand
+from limbs import palm
 from people import *
 
 p = Page("43", "A children's band on the stage: guitar, drums and trumpet; the cat keeps its paws over its ears")
@@ -12,7 +12,7 @@ p.note("drummer, behind, arms up")
 with p.at(340, 176):
     p.shape(limb("2 36, 0 94", 32, 36, flat=True))
     p.tube("-96 14, -50 -64", 12)
-    hand(p, -84, 20, -92, "fist", 1, .9)
+    palm(p, -84, 20, -92, .9, "fist", -1)
     p.one("-60 88, -24 68!, 0 80, 24 68!, 56 84, 62 180!, -60 180!", limb("-36 92, -84 100, -82 22", 46, 42, 34, flat=True), limb("34 92, 70 112, 92 130", 46, 40, 34, flat=True))
     p.line("-44 128, -36 110")
     with p.at(0, 0, .98, -6, flip=True):
@@ -24,7 +24,7 @@ p.shape(oval(304, 290, 48, 16, -3))
 p.shape("362 296!, 368 350, 412 358, 452 344!, 458 290!")
 p.shape(oval(410, 290, 49, 16, -3))
 p.tube("436 296, 386 280", 12)
-hand(p, 430, 304, -22, "fist", -1, .8)
+palm(p, 430, 304, -22, .8, "fist")
 p.shape(oval(346, 420, 84, 82))
 p.shape(oval(346, 420, 66, 64))
 p.shape(star(346, 422, 42))
@@ -42,7 +42,7 @@ with p.at(532, 0, flip=True):
     p.shape("24 142!, 90 122, 112 104, 132 62!, 162 132!, 120 130, 92 140, 28 158!")
     p.shape(oval(147, 97, 14, 38, -23))
     p.lines("58 112, 58 138", "78 104, 78 132", width=4)
-    hand(p, 70, 176, -76, "fist", 1, 1)
+    palm(p, 70, 176, -76, 1, "fist", -1)
     p.one(limb("-28 270, 12 310, 44 276, 68 180", 54, 48, 42, 34, flat=True), join=(-28, 262, 22))
 
 p.note("girl with the guitar, large at the left")
@@ -63,8 +63,8 @@ with p.at(130, 350, 1, -19):
     p.one(oval(0, 0, 58, 54), oval(62, 0, 40, 38))
     p.shape(oval(56, 0, 19))
     p.shape("-32 -22!, -20 -22!, -20 22!, -32 22!")
-hand(p, 236, 284, 42, "fist", 1, .98)
-hand(p, 126, 348, 4, "open", -1, 1.08)
+palm(p, 236, 284, 42, .98, "fist", -1)
+palm(p, 126, 348, 4, 1.08, "wave")
 p.one(limb("88 262, 48 330, 78 358, 128 350", 58, 52, 46, 38, flat=True), join=(90, 256, 29))
 
 p.note("the cat in front, paws over its ears")

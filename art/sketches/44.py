@@ -1,5 +1,5 @@
 from hand import *
-from hands import hand
+from limbs import palm
 from people import *
 
 p = Page("44", "A birthday: he blows, the candles bend, and the dog has already got at the cake")
@@ -20,7 +20,7 @@ with p.at(462, 182):
         head(p, "34", "tails", eyes="happy", mouth="open", brows=None)
         p.shape("-34 -42!, 0 -132!, 30 -46!, 0 -36")
         p.shape(oval(0, -130, 12))
-hand(p, 564, 262, -88, "fist", -1, .9)
+palm(p, 564, 262, -88, .9, "fist")
 p.one(limb("524 296, 584 322, 564 264", 38, 42, 34, flat=True), join=[(520, 300, 26), (540, 310, 20)])
 
 p.note("the table, seen a little from above")
@@ -52,7 +52,7 @@ with p.at(126, 240):
         p.shape("-42 -34!, -16 -128!, 32 -48!, -8 -44")
         p.line("-34 -66, -12 -66, 12 -80")
         p.shape(scallops(oval(-16, -126, 13), 7, .4))
-hand(p, 196, 450, 4, "flat", -1, 1.2)
+palm(p, 196, 450, 4, 1.2, "flat")
 p.one(limb("84 392, 72 458, 112 482, 198 450", 72, 66, 56, 42, flat=True), join=(84, 384, 38))
 p.lines("236 262, 262 256", "238 284, 266 288")
 

@@ -1,5 +1,5 @@
 from hand import *
-from hands import hand
+from limbs import palm
 from people import *
 
 p = Page("45", "Pancakes: father tosses one, looks up in vain - it has come down on the cat")
@@ -31,7 +31,7 @@ with p.at(520, 0, flip=True):
     p.shape("-50 350!, 0 358, 48 346!, 56 380, 72 424!, 0 434, -78 424!, -62 380")
     with p.at(30, 188, 1.02, 10):
         head(p, "side", "tails", eyes="happy", mouth="open", brows=None)
-    hand(p, 84, 346, 20, "point", -1, 1.1)
+    palm(p, 84, 346, 20, 1.1, "point")
     p.one(limb("-12 280, 4 332, 34 336, 86 344", 48, 44, 40, 34, flat=True), join=(-12, 274, 25))
 
 p.note("father: far arm with the pan, body, apron, near hand on his hip")
@@ -42,7 +42,7 @@ p.tube("236 236, 284 190", 15)
 with p.at(240, 222, 1, -6):
     p.shape("32 -48!, 46 -22, 90 -14, 132 -30, 152 -60!")
     p.shape(oval(92, -54, 60, 14, -4))
-hand(p, 228, 250, -62, "fist", -1, 1.1)
+palm(p, 228, 250, -62, 1.1, "fist")
 p.shape(limb("110 172, 106 232", 40, 44, flat=True))
 p.one("66 236, 88 222!, 106 236, 132 218!, 164 236, 180 290, 186 424!, 66 428!, 62 340, 56 290", limb("154 262, 194 314, 232 252", 62, 54, 42, flat=True))
 p.line("172 266, 186 284")
@@ -51,7 +51,7 @@ p.lines("105 270, 99 229", "150 262, 134 220", width=4)
 p.shape(heart(154, 396, 24))
 with p.at(114, 148, 1.08, -18):
     head(p, "34", "short", eyes="white", look=(.9, -1), mouth="open", brows=8, r=4.4)
-hand(p, 76, 344, 22, "flat", -1, 1.05)
+palm(p, 76, 344, 22, 1.05, "flat")
 p.one(limb("72 264, 40 312, 80 346", 46, 46, 38, flat=True), join=(74, 260, 23))
 
 p.note("cat in front, pancake over its head")

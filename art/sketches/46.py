@@ -1,5 +1,5 @@
 from hand import *
-from hands import hand
+from limbs import palm
 from people import *
 from beasts import chick, hoof
 
@@ -32,7 +32,7 @@ with p.at(240, 150, flip=True):
         p.shape(limb(f"{x} 220, {x} 300", 36, 32, flat=True))
         with p.at(x, 288):
             p.shape("-20 0!, -22 36, -20 50!, 44 50!, 43 38, 24 26, 20 0!")
-    hand(p, 104, 108, 14, "flat", 1, 1)
+    palm(p, 104, 108, 14, 1, "flat", -1)
     p.shape(limb("22 70, 66 88, 106 108", 44, 38, 34, flat=True))
     p.shape(limb("8 26, 2 90", 32, 36, flat=True))
     p.shape("-44 72, -18 52!, 2 62, 20 48!, 38 68, 40 130, 60 236!, 0 250, -76 238!, -54 140, -50 92")
@@ -45,7 +45,7 @@ with p.at(240, 150, flip=True):
         p.line("-36 0, -26 -34, 24 -34, 36 0", 4)
         p.shape("-40 0!, -28 66!, 28 66!, 40 0!")
         p.shape(oval(0, 0, 40, 12))
-    hand(p, 36, 142, 8, "fist", -1, 1, lines=False)
+    palm(p, 36, 144, 4, 1, "fist")
 
     p.one(limb("-12 92, -16 132, 4 143, 40 142", 38, 40, 38, 34, flat=True), join=(-12, 86, 20))
 for x, y in ((128, 282), (96, 292), (122, 314)):

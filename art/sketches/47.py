@@ -1,5 +1,5 @@
 from hand import *
-from hands import hand
+from limbs import palm
 from people import *
 
 p = Page("47", "A strong castle: the knight rides to the drawbridge, the king waves from the tower, a goose runs ahead")
@@ -27,7 +27,7 @@ with p.within(window):
         head(p, "34", "short", mouth="", brows=None, ear=False, r=5.6)
         p.shape("-16 12!, 2 22, 16 16!, 28 22, 42 10!, 42 40, 30 66, 10 68, -10 46")
         p.shape("-50 -22!, -54 -76!, -22 -52!, 0 -86!, 20 -52!, 50 -72!, 48 -14!, 0 -26")
-hand(p, 435, 204, -116, "open", 1, .9)
+palm(p, 435, 204, -116, .9, "wave", -1)
 p.shape(limb("536 254, 476 254, 436 206", 34, 32, 28, flat=True))
 p.shape("470 260!, 604 260!, 604 280!, 470 280!")
 p.note("moat, drawbridge, frog")
@@ -36,7 +36,7 @@ p.shape("336 396!, 466 396!, 520 476!, 326 482!")
 
 p.note("knight on his horse, in profile")
 with p.at(164, 372, 1.0):
-    p.shape(limb("58 -24, 74 -214", 12, 12))
+    p.shape(limb("62 -24, 76 -214", 12, 12))
     p.shape("78 -222!, 118 -234, 150 -216, 188 -228!, 180 -180!, 150 -172, 120 -186, 78 -168!")
     p.shape(limb("-34 30, -30 84, -44 112, -38 134", 50, 34, 24, 22, flat=True))
     p.shape(limb("58 26, 62 84, 54 134", 44, 28, 24, flat=True))
@@ -61,7 +61,7 @@ with p.at(164, 372, 1.0):
         head(p, "side", "short", mouth="smile", ear=False)
         p.shape("44 -34!, 24 -30, 12 -14!, 12 36!, -30 52!, -54 30, -56 -20, -34 -58, 10 -62, 38 -46")
     p.line("150 -58, 120 -30, 60 -54", 4)
-    hand(p, 46, -52, -12, "fist", -1, .84)
+    palm(p, 46, -49, -8, .9, "fist")
     p.one(limb("-16 -80, -14 -44, 16 -40, 48 -50", 42, 38, 34, 30, flat=True), join=(-16, -84, 22))
 p.note("goose in front runs along")
 with p.at(428, 496, .9):

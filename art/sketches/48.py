@@ -1,5 +1,5 @@
 from hand import *
-from hands import hand
+from limbs import palm
 from people import *
 
 p = Page("48", "Colouring together round the table's corner: one draws with the tongue out, one leans over, one shows the portrait of the cat")
@@ -45,7 +45,7 @@ with p.at(352, 396):
     p.lines("-56 14, -50 21, -44 13, -38 21, -32 14", "24 -34, 28 -12", "44 -30, 46 -8", "62 -24, 62 -2")
 
 p.note("the hand that strokes the cat")
-hand(p, 324, 330, 44, "flat", -1, 1)
+palm(p, 324, 330, 44, 1, "flat")
 p.one(limb("248 264, 284 298, 328 332", 44, 40, 34, flat=True), join=(242, 262, 25))
 
 p.note("the portrait in both hands")
@@ -54,7 +54,7 @@ p.shape("340 222!, 344 204!, 358 214, 372 212, 386 200!, 392 216!, 402 250, 378 
 p.eye(362, 236, 4)
 p.eye(382, 233, 4)
 p.lines("362 254, 372 258, 384 250")
-hand(p, 458, 268, 180, "fist", 1, 1, lines=False)
+palm(p, 460, 268, 180, 1, "pinch", -1)
 p.one(limb("536 264, 520 312, 486 296, 454 268", 46, 46, 42, 36, flat=True), join=(538, 260, 25))
 
 p.note("child in profile, tongue out, near at the left")
@@ -66,7 +66,7 @@ with p.at(86, 274):
     p.shape("-52 74!, -20 92, 16 66!, 26 84!, -16 112, -60 94!")
 p.shape("206 330!, 222 322!, 266 426!, 268 452!, 250 434!")
 p.line("251 434, 266 427")
-hand(p, 212, 412, -24, "fist", -1, 1.3)
+palm(p, 212, 412, -24, 1.3, "fist")
 p.one(limb("26 410, 58 494, 130 486, 216 412", 72, 70, 62, 48, flat=True), join=(22, 404, 40))
 
 p.note("pencils in a pot, one loose")

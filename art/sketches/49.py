@@ -1,5 +1,5 @@
 from hand import *
-from hands import hand
+from limbs import palm
 from people import *
 from beasts import hoof
 
@@ -55,7 +55,7 @@ with p.at(352, 282, flip=True):
     p.tube("150 24, 128 60, 96 92", 12)
     p.shape("120 2!, 124 22, 146 34, 164 26, 172 4!")
     p.shape(oval(146, 3, 26, 8), 3)
-    hand(p, 78, 110, -38, "fist", -1, 1.05)
+    palm(p, 78, 110, -38, 1.05, "fist")
     p.one(limb("-16 94, 6 138, 34 140, 80 108", 46, 44, 40, 34, flat=True), join=(-17, 88, 24))
 
 p.note("the raccoon with the corn tiptoes off")

@@ -1,5 +1,5 @@
 from hand import *
-from hands import hand
+from limbs import palm
 from people import *
 
 p = Page("50", "Carnival: the bear cub walks into the clown's lifted shoe; behind, the princess throws streamers")
@@ -14,7 +14,7 @@ bunting(p, "340 -30, 410 40, 520 66, 640 40", 2, 56)
 p.note("princess, small and behind, in profile, throwing a streamer")
 p.tube("416 188, 386 174, 386 142, 414 126, 404 96, 366 94, 336 112, 306 104", 13)
 with p.at(506, 220, 1.1):
-    hand(p, -74, -18, -124, "open", 1, .72)
+    palm(p, -74, -18, -124, .72, "wave", -1)
     p.shape(limb("-6 22, -52 20, -74 -16", 28, 24, 20, flat=True))
     p.shape(limb("-1 -16, 2 30", 18, 20, flat=True))
     p.shape("-26 14, -10 2!, 2 10, 14 2!, 28 18, 30 50, 32 74!, 4 82, -26 76!, -28 44")
@@ -22,13 +22,13 @@ with p.at(506, 220, 1.1):
     with p.at(0, -36, .76, flip=True):
         head(p, "side", "pony", mouth="open", brows=None, r=6.5)
         p.shape("-38 -40!, -48 -90!, -20 -66!, -4 -100!, 12 -66!, 40 -80!, 32 -38!, -4 -50")
-    hand(p, 42, 74, 100, "flat", 1, .7)
+    palm(p, 42, 74, 100, .7, "flat", -1)
     p.one(limb("16 22, 40 44, 42 74", 28, 24, 20, flat=True), join=(14, 18, 14))
 
 p.note("clown: the far arm lifts its stick")
 p.tube("318 222, 344 176", 13)
 p.shape(oval(348, 170, 13))
-hand(p, 306, 240, -60, "fist", -1, 1)
+palm(p, 306, 240, -60, 1, "fist")
 p.shape(limb("210 252, 268 286, 310 236", 74, 60, 40, flat=True))
 
 p.note("clown: lifted leg, trunk and standing leg are one suit")
@@ -56,7 +56,7 @@ with p.at(238, 312, 1, 12):
 p.note("clown: the near arm strikes")
 p.tube("152 334, 220 284", 13)
 p.shape(oval(224, 281, 13))
-hand(p, 136, 342, -34, "fist", -1, 1.05)
+palm(p, 136, 342, -34, 1.05, "fist")
 p.one(limb("142 252, 88 306, 98 348, 138 342", 64, 58, 50, 40, flat=True), join=(144, 244, 33))
 
 p.note("clown: ruff, head, hat")

@@ -1,5 +1,5 @@
 from hand import *
-from hands import hand, hand_parts
+from limbs import bare_arm
 from people import *
 
 p = Page("51", "A day at the beach: the boy lies buried in the sand, his sister pats it down, the crab has found his toes")
@@ -23,8 +23,7 @@ p.lines("104 10, 64 124", "126 8, 160 120", width=4)
 p.note("girl on her knees, in profile, pats the sand with both hands on the spade")
 with p.at(262, 146):
     p.one(limb("-30 184, 30 176, 72 204", 66, 56, 46), limb("74 204, 20 226, -44 226", 42, 36, 30), oval(-58, 224, 22, 14))
-    palm, fingers = hand_parts(98, 122, 40, "fist", -1, .9)
-    p.one(limb("26 84, 62 104, 100 124", 38, 32, 28), palm)
+    bare_arm(p, "26 84, 62 104, 100 124", 38, 32, 28, turn=40, size=.9, kind="fist")
     p.shape(limb("16 24, 2 96", 32, 36, flat=True))
     suit = "-60 108, -28 68!, -4 80, 22 64!, 36 96, 28 150, 34 196, -10 212, -60 204, -76 166"
     p.shape(suit)
@@ -35,9 +34,7 @@ with p.at(262, 146):
         p.shape("48 -16!, 20 -34, -20 -28, -54 -2!, -62 -30, -40 -60, 4 -70, 36 -52")
     p.shape(limb("74 78, 122 146", 16, 16))
     p.shape("108 136!, 134 122!, 162 160, 154 184, 132 174!")
-    palm, fingers = hand_parts(74, 96, -14, "fist", -1, .95)
-    p.one(limb("-2 122, 36 128, 78 96", 38, 34, 28), palm)
-    p.lines(*fingers)
+    bare_arm(p, "-2 122, 36 128, 78 96", 38, 34, 28, turn=-14, size=.95, kind="fist")
     p.one(limb("-26 110, -8 124, 18 126", 40, 42, 40, flat=True), join=(-30, 106, 22))
 
 p.note("the mound of sand, toes and head of the boy")

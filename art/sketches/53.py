@@ -1,5 +1,5 @@
 from hand import *
-from hands import hand
+from limbs import palm
 from people import *
 
 p = Page("53", "Here comes the train: the cow on the track chews on, nose to the buffer; the driver waves, children look over the gate")
@@ -30,7 +30,7 @@ with p.at(0, 0):
     p.shape("226 180!, 240 166!, 456 166!, 456 336!, 240 336!, 226 322!")
     p.shape("214 176!, 236 170!, 236 338!, 216 338!, 206 250")
     p.shape("202 336!, 640 336!, 640 396!, 202 396!")
-    hand(p, 424, 210, -124, "open", 1, 1)
+    palm(p, 424, 210, -124, 1, "wave", -1)
     p.shape(limb("530 276, 462 250, 422 206", 36, 36, 32, flat=True))
     p.shape("456 252!, 588 252!, 588 337!, 456 337!")
     p.shape(box(188, 344, 30, 32))
@@ -61,12 +61,12 @@ with p.at(84, 324, .99):
 train.__exit__(None, None, None)
 p.note("children beside the track, from behind, waving")
 with p.at(336, 462, .92):
-    hand(p, -94, 12, -98, "open", 1, 1.1)
+    palm(p, -94, 12, -98, 1.1, "wave", -1)
     p.shape(limb("0 40, 0 84", 36, 38, flat=True))
     p.one("-56 82, -20 62!, 0 70, 20 62!, 56 82, 60 120!, -60 120!", limb("-34 92, -78 84, -92 14", 48, 42, 34, flat=True))
     head(p, "back", "tails")
 with p.at(470, 470, .86):
-    hand(p, 94, 12, -82, "open", -1, 1.1)
+    palm(p, 94, 12, -82, 1.1, "wave")
     p.shape(limb("0 40, 0 84", 36, 38, flat=True))
     p.one("-56 82, -20 62!, 0 70, 20 62!, 56 82, 60 120!, -60 120!", limb("34 92, 78 84, 92 14", 48, 42, 34, flat=True))
     head(p, "back", "curly")

@@ -1,5 +1,5 @@
 from hand import *
-from hands import hand
+from limbs import palm
 from people import *
 
 p = Page("54", "Ducks in the park: the girl offers bread, the ducklings follow in a line, one sits on the sleeping grandfather's hat")
@@ -24,8 +24,8 @@ with p.at(140, 138):
     p.shape(limb("2 36, 0 84", 36, 40, flat=True))
     p.one("-56 106, -50 84, -22 66!, 0 80, 22 64!, 50 82, 56 106, 56 170!, 0 178, -56 170!", limb("-36 96, -66 134, -18 146", 44, 42, 34, flat=True), limb("36 96, 66 134, 30 144", 44, 42, 34, flat=True))
     p.lines("-36 102, -44 122, -30 138", "36 102, 42 122, 26 132", width=4)
-    hand(p, 22, 140, 176, "flat", 1, .95, lines=False)
-    hand(p, -22, 146, 2, "flat", -1, 1.02)
+    palm(p, 22, 140, 176, .95, "flat", -1)
+    palm(p, -22, 146, 2, 1.02, "flat")
     with p.at(8, 0, 1.02, 12):
         head(p, "34", "bald", eyes="closed", mouth="", brows=None, nose=False)
         p.shape("-4 26, 10 20, 26 24, 42 20, 54 28, 40 40, 26 34, 10 40")
@@ -41,7 +41,7 @@ p.note("girl squats at the water's edge, in profile")
 with p.at(470, 210, flip=True):
     p.shape(limb("68 140, 60 172, 48 200", 40, 34, 30, flat=True))
     shoe(p, 50, 202, 0, 1.05)
-    hand(p, 80, 82, 2, "flat", 1, .95)
+    palm(p, 80, 82, 2, .95, "flat", -1)
     p.shape(limb("18 84, 50 90, 84 82", 38, 34, 30, flat=True))
     p.shape(limb("14 34, 0 84", 32, 36, flat=True))
     p.shape("-36 84, -18 62!, -2 76, 18 58!, 36 84, 30 130, 16 166, -40 184, -84 170, -78 124")
@@ -50,7 +50,7 @@ with p.at(470, 210, flip=True):
     p.one(limb("-50 152, 4 148, 48 132", 64, 56, 46), limb("46 130, 36 168, 16 208", 46, 38, 32, flat=True), join=(-56, 152, 34))
     shoe(p, 18, 212, 0, 1.15)
     p.shape("92 74!, 128 52, 156 66, 164 98, 142 118, 104 116!")
-    hand(p, 84, 108, -8, "fist", -1, 1)
+    palm(p, 84, 108, -8, 1, "fist")
     p.one(limb("-20 92, 14 122, 44 124, 88 108", 44, 40, 38, 32, flat=True), join=(-22, 88, 21))
 
 p.note("pond in front")

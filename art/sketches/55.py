@@ -1,5 +1,5 @@
 from hand import *
-from hands import hand
+from limbs import palm
 from people import *
 
 p = Page("55", "Picnic seen from above: father pours, the girl bites the melon, a squirrel pulls the cake away, ants carry a cherry")
@@ -44,7 +44,7 @@ with p.at(514, 0, flip=True):
         p.spot(x, y, 2.6, 4)
     p.one(limb("-28 358, 30 350, 66 318", 70, 60, 48), limb("66 316, 68 356, 66 408", 46, 38, 32, flat=True), join=[(-34, 358, 34), (-8, 356, 30)])
     shoe(p, 66, 412, 0, 1.0)
-    hand(p, 64, 262, -52, "fist", 1, .95)
+    palm(p, 64, 262, -52, .95, "fist", -1)
     p.one(limb("-10 268, 14 308, 36 302, 66 260", 46, 44, 40, 34, flat=True), join=(-14, 262, 24))
 
 p.note("cup, jug")
@@ -57,7 +57,7 @@ with p.at(297, 300, 1.06, 25):
     p.shape(heart(0, 14, 16))
 
 p.note("father from behind, kneeling near us, pours")
-hand(p, 232, 292, -88, "fist", -1, 1.1)
+palm(p, 232, 292, -88, 1.1, "fist")
 p.shape(limb("90 330, 90 392", 50, 56, flat=True))
 p.one("-10 420, 20 388, 58 368!, 90 380, 124 368!, 160 384, 184 430, 188 560, -10 560", limb("150 408, 212 408, 232 296", 56, 50, 40, flat=True))
 p.line("152 456, 158 506")

@@ -1,5 +1,5 @@
 from hand import *
-from hands import hand
+from limbs import palm
 from people import *
 
 p = Page("56", "The pirates' ship: the captain peers through his telescope, the parrot peers back from its other end; the monkey steers")
@@ -50,7 +50,7 @@ with p.at(228, 214, 1.08, flip=True):
     p.line("8 -10, 18 -2, 28 -6")
     p.shape("38 -20!, 96 -36!, 102 -12!, 44 4!")
     p.shape("92 -42!, 154 -58!, 162 -24!, 100 -6!")
-    hand(p, 84, 14, -84, "fist", -1, .96)
+    palm(p, 84, 14, -84, .96, "fist")
     p.one(limb("-18 98, -2 146, 56 140, 86 24", 56, 58, 52, 40, flat=True), join=(-20, 92, 29))
     p.shape("66 48!, 104 50!, 112 14!, 64 10!")
     p.shape("52 22!, 36 18, 20 28, 2 22, -12 12, -22 12!, -36 40, -26 76, 0 92, 20 84, 42 88, 46 62, 58 48")

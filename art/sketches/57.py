@@ -1,5 +1,5 @@
 from hand import *
-from hands import hand
+from limbs import palm
 from people import *
 
 p = Page("57", "Two in a canoe: grandfather paddles with all his strength; the girl shrugs, as the beaver swims off with her paddle")
@@ -17,8 +17,8 @@ p.note("girl in the bow, turned round to him, empty-handed")
 with p.at(180, 192):
     p.shape("-24 -44!, -58 -76, -74 -100!, -60 -104!, -66 -136!, -38 -116, -14 -56!")
     p.line("-22 -56, -34 -80, -50 -106")
-    hand(p, -92, 106, -118, "open", 1, 1)
-    hand(p, 92, 106, -62, "open", -1, 1)
+    palm(p, -92, 106, -118, 1, "wave", -1)
+    palm(p, 92, 106, -62, 1, "wave")
     p.shape(limb("-2 36, -4 88", 34, 38, flat=True))
     p.one("-48 82, -24 64!, -4 80, 16 64!, 44 82, 50 130, 56 220!, -58 220!, -54 130", limb("-34 92, -62 136, -93 104", 44, 42, 34, flat=True), limb("30 92, 62 136, 93 104", 44, 42, 34, flat=True))
     p.line("-26 92!, -14 106!, -2 94!, 10 106!, 22 92!")
@@ -49,8 +49,8 @@ p.shape("288 444!, 316 450!, 318 486, 306 526, 286 538, 270 520, 272 480")
 p.shape(limb("330 160, 302 452", 14, 14))
 p.shape(limb("316 156, 346 160", 16, 16))
 with p.at(446, 0, flip=True):
-    hand(p, 106, 206, -46, "fist", -1, 1.1)
-    hand(p, 106, 318, -6, "fist", -1, 1.15)
+    palm(p, 106, 206, -46, 1.1, "fist")
+    palm(p, 106, 318, -6, 1.15, "fist")
     p.one(limb("-28 262, -10 330, 34 348, 110 318", 58, 54, 46, 38, flat=True), join=(-28, 256, 29))
 
 p.note("the beaver with the other paddle in its teeth")

@@ -1,5 +1,5 @@
 from hand import *
-from hands import hand, hand_parts
+from limbs import bare_arm, palm
 from people import *
 
 p = Page("58", "Playing with blocks: the girl on tiptoe sets the last one, the boy holds his breath, the dog's tail will do the rest")
@@ -55,9 +55,7 @@ with p.at(204, 0):
     with p.at(8, 138, .94, -14):
         head(p, "side", "pony", mouth="tongue", brows=None)
     p.shape("90 90!, 152 76!, 160 136!, 100 148!")
-    palm, fingers = hand_parts(90, 136, -64, "flat", 1, 1.05)
-    p.one(limb("10 244, 64 216, 90 134", 40, 36, 28), palm)
-    p.lines(*fingers)
+    bare_arm(p, "10 244, 64 216, 90 134", 40, 36, 28, turn=-64, size=1.05, kind="flat", thumb=-1)
     p.one(limb("-20 256, 16 246, 48 228", 44, 46, 43, flat=True), join=(-24, 256, 24))
 
 p.note("boy on his belly, cheeks blown up, hands at his mouth")
@@ -66,7 +64,7 @@ with p.at(520, 480, flip=True):
     p.line("-24 -30, -34 36", 4)
     with p.at(86, -66, .98, -10):
         head(p, "side", "curly", mouth="o", brows=8)
-    hand(p, 104, 2, -70, "open", 1, .9)
+    palm(p, 104, 2, -70, .9, "wave", -1)
     p.one(limb("30 -2, 44 26, 70 28, 102 4", 42, 40, 36, 32, flat=True), join=(26, -6, 24))
 p.note("blocks that wait")
 p.shape("60 474!, 112 464!, 122 510!, 68 520!")

@@ -1,5 +1,5 @@
 from hand import *
-from hands import hand
+from limbs import palm
 from people import *
 
 p = Page("59", "The juggler in the circus: on one wheel, five balls in flight; the monkey on the elephant has caught one")
@@ -48,7 +48,7 @@ with p.at(462, 294, 1.06, -6, flip=True):
     p.shape(oval(10, 158, 62))
     p.shape(oval(10, 158, 46))
     p.shape("-1 66!, 2 162, 18 162, 19 66!")
-    hand(p, 112, -66, -60, "open", -1, 1)
+    palm(p, 112, -66, -60, 1, "wave")
     p.shape(limb("24 -24, 78 -22, 112 -66", 46, 42, 34, flat=True))
     p.shape(limb("-2 -90, -2 -36", 34, 38, flat=True))
     p.one("-44 -34, -20 -60!, -2 -46, 18 -62!, 44 -36, 50 0, 46 34!, 44 66, 8 86, -34 76, -44 36!, -48 -4",
@@ -57,7 +57,7 @@ with p.at(462, 294, 1.06, -6, flip=True):
         shoe(p, 0, 0, 0, 1.15)
     p.line("-45 36, 4 46, 47 32", 4)
     p.spot(20, 14, 5)
-    hand(p, 58, 12, -34, "open", -1, 1.05)
+    palm(p, 58, 12, -34, 1.05, "wave")
     p.one(limb("-15 -24, -8 22, 58 14", 42, 42, 36, flat=True), join=(-18, -24, 25))
     with p.at(6, -116, 1.04, -12):
         head(p, "34", "curly", mouth="open", brows=5, look=(.6, -.6))
