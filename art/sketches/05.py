@@ -1,5 +1,7 @@
 from hand import *
 from people import *
+from limbs import *
+from sideface import *
 
 p = Page("05", "The dog's bath: a girl on tiptoe scrubs with both hands, the dog shakes off six big drops")
 
@@ -14,7 +16,6 @@ p.note("dog shaking itself")
 with p.at(400, 214):
     p.one(limb("64 170, 140 150, 168 84", 34, 26, 18))
     p.one("-70 190, -84 90, -40 20, 40 20, 92 90, 88 190")
-    p.line("-48 70, -54 110, -46 140")
     with p.at(-6, -20, 1.06, -10):
         p.one("-30 -62, -48 -108, -62 -146, -92 -156, -106 -132, -94 -92, -68 -50, -46 -20")
         p.one("34 -62, 84 -104, 138 -92, 142 -58, 100 -42, 48 -18")
@@ -35,7 +36,7 @@ for x, y, t, s in ((226, 56, -46, 1), (350, 40, -6, .9), (452, 38, 16, 1), (560,
 p.note("tub with foam")
 p.shape("254 352!, 266 420, 288 496, 300 510!, 512 510!, 524 496, 548 420, 560 352!")
 p.lines("330 360, 338 514", "480 360, 472 514", width=4)
-p.shape("258 428, 410 446, 552 428, 548 452, 410 472, 266 452")
+p.shape("260 428!, 300 436, 406 444, 510 436, 554 428!, 550 450!, 510 458, 406 466, 300 458, 264 450!")
 p.shape(scallops("238 352, 280 326, 330 344, 380 322, 430 342, 490 322, 540 330, 580 352, 540 374, 470 364, 400 380, 330 366, 270 378", 17, .36))
 
 p.note("puddle, girl on tiptoe, belly at the tub")
@@ -48,17 +49,18 @@ with p.at(176, 0):
     tiptoe(-26, 472)
     p.one(limb("-28 360, -34 416, -60 458", 44, 28))
     tiptoe(-60, 464)
-    p.one(arm("34 248, 92 250, 140 262", 36, 28, thumb=-1, grip=True))
+    palm(p, 158, 268, -14, .9, "fist", 1)
+    p.shape(limb("30 240, 84 278, 156 268", 36, 32, 27, flat=True))
     p.shape(limb("14 196, 20 226", 28, 28))
     p.one("-14 226!, 40 216!, 62 260, 72 330, 70 384!, 20 396, -62 380!, -44 320, -34 262")
     p.line("-46 322, 20 338, 70 322")
     with p.at(20, 156, 1, 4):
-        head(p, "side", "tails", mouth="tongue")
-    with p.at(158, 246, 1, -16):
-        p.shape(scallops("-30 0, -30 -20, 30 -20, 30 0", 7, .4))
-        p.shape("-36 -4!, 36 -4!, 36 18!, -36 18!")
-    p.one(arm("30 266, 74 300, 130 270", 38, 32, 26, thumb=-1, grip=True))
-    p.one(limb("-2 246, 24 268, 48 282", 52, 46, flat=True), join=(-6, 250, 26))
+        side_head(p, "tails", mouth="smile", brows=2)
+    with p.at(150, 240, 1, -16):
+        p.shape(scallops("-20 -2, -22 -20, 32 -22, 34 -2", 6, .42))
+        p.shape("-44 -4!, 40 -4!, 40 18!, -44 18!")
+    palm(p, 102, 269, -18, .98, "fist", 1)
+    sleeve(p, "-6 252, 34 300, 102 269", 54, 46, 31)
 
 p.note("soap bottle")
 with p.at(584, 462, .9):
