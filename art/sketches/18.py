@@ -1,4 +1,5 @@
 from hand import *
+from limbs import *
 from beasts import *
 
 p = Page("18", "An octopus juggles shells and a crown; the diver swims over to look, a crab cheers")
@@ -61,9 +62,9 @@ with p.at(84, 372):
     p.eye(43, -33, 5)
     p.lines("13 -42, 21 -47, 29 -44")
     p.shape(oval(33, -7, 6.5, 8), 3)
-    p.one(limb("-14 66, 50 96, 92 52", 46, 38, 28), oval(98, 44, 20, 19), limb("98 40, 112 4", 16, 14), limb("92 36, 78 28", 14, 13), join=(-18, 62, 25))
-    p.line("100 52, 112 46")
-for x, y, r in ((60, 258, 14), (84, 226, 11), (66, 192, 15)):
+    palm(p, 70, 48, -84, 1.25, "point", -1)
+    sleeve(p, "-16 66, 40 106, 70 46", 52, 44, 32)
+for x, y, r in ((56, 252, 14), (80, 218, 12), (60, 184, 15)):
     p.shape(oval(x, y, r))
 
 p.note("crab")
