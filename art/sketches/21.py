@@ -1,6 +1,7 @@
 from hand import *
 from limbs import palm, sleeve
 from people import *
+from sideface import *
 
 p = Page("21", "The fire brigade rescues a cat: it pats the fireman's helmet from its branch; the old lady waits below with a bowl of milk")
 
@@ -30,9 +31,10 @@ with p.at(322, 372, 1, -55):
 p.note("cat on the branch pats the helmet")
 with p.at(506, 178, 1.06):
     p.one(limb("26 -12, 66 -2, 72 34, 50 56", 19, 17, 15))
-    p.one("-34 -2, -32 -44, -6 -66, 24 -48, 40 -8, 26 6, -24 6", limb("-20 -48, -50 -56, -80 -50", 26, 20, 20),
+    p.one("-34 -2, -32 -44, -6 -66, 24 -48, 40 -8, 26 6, -24 6", limb("-20 -48, -50 -56, -80 -50", 26, 20, 20), oval(-20, 1, 20, 9),
           oval(-6, -84, 37, 31, 6), "-42 -88!, -44 -130!, -12 -110!", "-2 -112!, 28 -132!, 31 -84!")
-    p.line("-8 2, 4 -12, -2 -28")
+    p.line("-2 4, 2 -18, 22 -26")
+
     p.eye(-28, -84, 4.6, look=(-1, 0))
     p.eye(-2, -84, 4.6)
     p.shape("-22 -74!, -11 -74!, -17 -67!", 3)
@@ -86,7 +88,7 @@ shoe(p, 498, 514, 0, 1.1, True)
 p.one(limb("512 330, 516 356", 38, 38), "484 362, 514 344, 546 360, 560 410, 572 500!, 520 510, 462 500!, 476 420, 474 386")
 with p.at(506, 316, .86, 12, flip=True):
     p.shape(oval(-40, -48, 23))
-    head(p, "side", "parting", eyes="white", look=(.9, -.7), mouth="open", brows=None, r=4.4)
+    side_head(p, "parting", eyes="white", look=(.9, -.7), mouth="open", brows=None, r=4.4)
 p.shape("478 352!, 512 362, 550 352!, 560 372, 514 384, 474 370")
 p.shape("388 424!, 462 424!, 450 448, 426 456, 400 448")
 p.shape(oval(425, 424, 37, 9), 3)
