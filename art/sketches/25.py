@@ -1,6 +1,7 @@
 from hand import *
 from limbs import palm, sleeve
 from people import *
+from sideface import *
 
 p = Page("25", "Two children sail past the lighthouse: the girl plays ball with a seal, the keeper waves from his gallery")
 
@@ -50,18 +51,18 @@ p.shape(limb("318 312, 360 314, 396 292", 30, 28, 23, flat=True))
 p.shape(limb("306 280, 304 306", 30, 30))
 p.shape("268 400!, 264 348, 278 308, 306 296, 332 308, 344 350, 346 400!")
 with p.at(318, 256, .84, 4):
-    head(p, "side", "pony", mouth="open", brows=5)
+    side_head(p, "pony", mouth="open", brows=5)
 palm(p, 382, 338, -30, .98, "open", 1)
 sleeve(p, "296 328, 332 360, 384 338", 42, 36, 26)
 
 p.note("boy holds the tiller and looks up at the sail")
 p.shape(limb("122 332, 124 356", 32, 32))
-p.shape("84 420!, 86 376, 104 350, 132 348, 156 366, 164 420!")
+p.shape("84 420!, 88 376, 104 352, 126 346, 152 354, 168 378, 180 420!")
 with p.at(130, 300, .84, -10):
     head(p, "34", "tuft", mouth="open", brows=3)
 p.tube("14 336, 62 362", 14)
 palm(p, 68, 370, -140, .95, "fist", -1)
-sleeve(p, "112 382, 94 416, 66 370", 36, 36, 26)
+sleeve(p, "112 384, 94 418, 66 370", 42, 36, 26)
 
 p.note("tiller and hull")
 p.shape("34 382!, 230 406, 330 398, 452 330!, 428 412, 380 470!, 80 470!, 48 430")
