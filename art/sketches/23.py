@@ -1,6 +1,7 @@
 from hand import *
 from limbs import palm, sleeve
 from people import *
+from sideface import *
 
 p = Page("23", "A digger lifts its bucket: a mole with a helmet sits in the earth; the driver and the worker cannot believe it")
 
@@ -25,12 +26,12 @@ with p.at(496, 218):
     p.line("-7 -4, 3 -4", 3)
     p.spot(-27, 1, 4.6)
     p.spot(13, 1, 4.6)
-p.shape(scallops("440 336, 440 292, 472 276, 530 286, 586 270, 604 330", 7, .3))
+p.shape(scallops("434 312, 446 290, 472 276, 530 286, 586 272, 610 300", 6, .3, closed=False) + [(600, 340, True), (450, 340, True)])
 for x in (466, 540):
     p.shape(f"{x - 21} 308!, {x - 24} 286, {x - 10} 274, {x + 10} 275, {x + 22} 288, {x + 19} 308!")
     p.lines(f"{x - 7} 290, {x - 7} 308", f"{x + 7} 290, {x + 7} 308")
 p.shape("424 308!, 604 298!, 622 270!, 616 340, 574 382, 504 386, 450 366!")
-p.line("432 334, 616 322", 4)
+p.line("436 334, 616 322", 4)
 
 p.note("digger: house, cab with the driver, boom")
 p.shape("14 410!, 14 320!, 34 298!, 150 290!, 150 410!")
@@ -42,7 +43,7 @@ p.shape(pane)
 with p.within(pane):
     with p.at(192, 278, .72, -10):
         p.one("-70 120!, -64 74, -28 54, 30 60, 60 120!")
-        head(p, "side", "short", mouth="open", brows=None, r=6.4)
+        side_head(p, "short", mouth="open", brows=None, r=6.4)
         p.shape("-56 -10!, -48 -56, 0 -72, 38 -56, 46 -24!, 74 -14, 40 -10, 0 -20")
 p.put(f'<path fill="none" d="{p.path(pane)}"/>')
 p.shape("206 408!, 214 350, 300 230, 352 120, 392 66, 440 52!, 462 78!, 420 120, 380 220, 300 350, 284 410!")
@@ -60,9 +61,9 @@ p.note("worker in front, seen from the side, points at the mole")
 palm(p, 480, 468, -52, 1.08, "point", 1)
 p.shape(limb("384 440, 382 470", 42, 42))
 p.shape("332 560!, 334 500, 352 464, 388 456, 420 468, 432 500, 436 560!")
-with p.at(390, 412, .98, -18):
-    head(p, "side", "short", mouth="open", brows=None, r=5.8)
-    p.shape("-58 -8!, -50 -50, -8 -76, 34 -60, 44 -26!, 76 -16, 40 -8, 0 -18, -30 -8")
-    p.line("-10 -76, -12 -36", 4)
+with p.at(386, 416, .96, -16):
+    side_head(p, "short", mouth="open", brows=None, r=5.8)
+    p.shape("-58 -12!, -50 -54, -8 -80, 34 -64, 44 -32!, 76 -24, 40 -16, 0 -24, -30 -12")
+    p.line("-10 -80, -12 -40", 4)
 sleeve(p, "378 490, 424 536, 482 466", 50, 44, 30)
 p.save()
