@@ -5,7 +5,7 @@ from hand import oval
 from people import cap, tail
 
 SIDE = "0 -52, 26 -45, 40 -27, 43 -10, 48 0, 57 8, 56 15, 47 18!, 49 24, 44 29!, 47 34, 43 44, 32 50, 12 48, -16 42, -42 20, -48 -12, -36 -40"
-SIDE_OPEN = "0 -52, 26 -45, 40 -27, 43 -10, 48 0, 57 8, 56 15, 47 18!, 49 25!, 30 26!, 34 36!, 43 38!, 40 48, 28 53, 8 49, -16 42, -42 20, -48 -12, -36 -40"
+SIDE_OPEN = "0 -52, 26 -45, 40 -27, 43 -10, 48 0, 57 8, 56 15, 47 18!, 49 24!, 30 25!, 34 38!, 43 42!, 41 50, 29 55, 8 50, -16 42, -42 20, -48 -12, -36 -40"
 
 
 def ear_at(p, top="-15 -11"):
@@ -19,10 +19,10 @@ def side_head(p, hair="short", eyes="dot", look=(1, 0), mouth="smile", brows=0, 
     if hair in ("tails", "pony", "bun", "long", "braid"):
         tail(p, hair)
     if mouth == "open":
-        p.shape("44 22!, 22 22!, 24 36, 34 44, 42 40!", 3)
+        p.shape("44 22!, 22 22!, 24 36, 34 44, 42 42!", 3)
     p.shape(SIDE_OPEN if mouth == "open" else SIDE)
     if mouth == "open":
-        p.shape("49 25!, 36 27, 22 23!, 25 36, 35 41, 43 38!", 3)
+        p.shape("49 24!, 35 26, 19 20!, 22 36, 33 44, 43 42!", 3)
     elif mouth == "smile":
         p.line("44 29, 34 31, 25 23")
     elif mouth == "o":
