@@ -1,6 +1,7 @@
 from hand import *
 from people import *
 from sideface import *
+from limbs import *
 from beasts import *
 
 p = Page("06", "A girl on her pony jumps over the bar; the dog runs through below, a boy at the rail cheers")
@@ -23,8 +24,8 @@ for x in (526, 594):
 
 p.note("pony: tail, far legs")
 p.shape("140 250, 100 232, 62 262, 26 250!, 34 302, 82 322, 134 296")
-p.one(limb("200 290, 214 352, 176 388, 132 414", 74, 46, 28, 22, flat=True))
-hoof(p, 135, 412, 11, 22, 58)
+p.one(limb("200 290, 222 352, 196 394, 152 424", 74, 46, 28, 22, flat=True))
+hoof(p, 155, 422, 11, 22, 52)
 p.one(limb("384 240, 450 230, 482 268, 466 310", 60, 42, 28, 24, flat=True))
 hoof(p, 467, 306, 12, 22, 26)
 p.note("pony: body, neck, head, near legs")
@@ -54,8 +55,8 @@ with p.at(286, 66, .84, 6):
     p.line("-14 -3, -26 -4, -31 8, -24 19, -13 15", 4)
     p.shape("-52 6, -56 -34, -26 -66, 14 -66, 44 -44, 50 -22!, 72 -14, 66 -6!, 20 -16, -20 -10, -38 10")
 p.line("346 190, 400 184, 452 160", 4)
-p.one(limb("250 136, 272 186, 328 186", 44, 38, 28, flat=True), join=(248, 130, 22))
-p.one(arm("326 186, 332 186, 338 187", 30, 26, thumb=-1, grip=True))
+palm(p, 328, 186, 4, .96, "fist", 1)
+p.one(limb("250 136, 272 186, 330 186", 44, 38, 29, flat=True), join=(248, 130, 22))
 
 p.note("dog runs through below")
 with p.at(352, 494, .7):
