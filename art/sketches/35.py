@@ -1,6 +1,6 @@
+from faces import head
 from hand import *
 from limbs import bare_arm
-from people import *
 
 p = Page("35", "A mermaid combs her hair on a rock and looks into the mirror that a crab holds up for her; a dolphin leaps")
 
@@ -14,7 +14,7 @@ with p.at(542, 102):
             p.shape("0 0!, 26 -18, 62 -10, 78 12!, 44 8, 20 10")
 
 p.note("dolphin leaps")
-with p.at(518, 282, .64, -12):
+with p.at(508, 276, .67, -14):
     p.one("-96 52, -64 -16, 0 -46, 60 -32, 92 -4, 128 14!, 124 30, 86 32, 40 30, 0 24, -46 34, -78 76",
           "26 -44!, 8 -78, -28 -92!, -26 -62, -20 -34!", "-92 44!, -128 44, -146 72!, -112 78, -110 112!, -78 96, -72 66!")
     p.line("126 24, 100 20, 84 6")
@@ -47,10 +47,10 @@ with p.at(192, 118, .98, 6):
     p.shape("40 -34!, 22 -22, 2 -4, -8 16, -6 44, -18 84, -26 130, -46 180, -96 220!, -92 200, -120 184!, -118 120, -96 40, -76 -30, -40 -62, 4 -66, 34 -52")
     p.line("-58 -14, -70 30")
     p.shape(star(-6, -46, 24))
-with p.at(102, 204, 1.1, 16):
+with p.at(102, 176, 1.1, 8):
     p.shape("-14 -46!, 4 -46!, 4 46!, -14 46!")
     p.lines("4 -36, 26 -36", "4 -18, 26 -18", "4 0, 26 0", width=5)
-bare_arm(p, "154 224, 174 290, 108 252", 38, 30, 21, turn=-140, kind="fist", thumb=-1, join=(154, 226, 23))
+bare_arm(p, "158 222, 138 290, 100 234", 38, 32, 22, turn=-116, kind="fist", thumb=-1, join=(158, 224, 23))
 
 p.note("the crab on the rock holds up the mirror")
 with p.at(376, 0):
