@@ -1,6 +1,7 @@
+from faces import head
 from hand import *
 from limbs import palm, sleeve
-from people import *
+from people import shoe
 
 p = Page("38", "Children trim the Christmas tree: a girl on the steps sets the star, a boy hands up a bauble, the cat has wound itself in the garland")
 
@@ -9,8 +10,11 @@ p.line("-10 420, 640 420", 4)
 p.shape(box(24, 30, 124, 180))
 with p.within(box(24, 30, 124, 180)):
     p.one(oval(92, 74, 19, 18), oval(90, 120, 30, 32))
-    p.eye(86, 70, 2.6)
-    p.eye(98, 70, 2.6)
+    p.eye(84, 66, 3.4)
+    p.eye(100, 66, 3.4)
+    p.line("87 80, 92 83, 97 80")
+    p.spot(90, 106, 3.6)
+    p.spot(90, 124, 3.6)
 p.put(f'<path fill="none" d="{p.path(box(24, 30, 124, 180))}"/>')
 
 p.note("tree: pot, trunk, three tiers")
@@ -22,18 +26,17 @@ p.shape("352 56!, 322 120, 284 174, 270 186!, 302 198, 332 186, 362 200, 394 188
 p.note("garland and baubles")
 p.shape("284 222, 340 250, 410 224!, 418 238!, 344 266, 274 236!")
 p.shape("238 366, 330 396, 452 360!, 462 376!, 334 412, 224 384!")
-for x, y, r in ((350, 150, 15), (386, 284, 17), (318, 290, 17), (360, 356, 18), (430, 414, 18)):
+for x, y, r in ((350, 150, 15), (386, 284, 17), (318, 290, 17), (360, 356, 18)):
     p.shape(oval(x, y, r))
 
 p.note("steps and the girl on them")
-p.shape("496 290!, 522 290!, 470 530!, 444 530!")
-p.shape("540 290!, 566 290!, 604 530!, 578 530!")
-p.shape("488 284!, 580 284!, 584 304!, 484 304!")
+p.shape("494 350!, 520 350!, 482 530!, 456 530!")
+p.shape("546 350!, 572 350!, 600 530!, 574 530!")
+p.shape("482 342!, 584 342!, 588 362!, 478 362!")
 with p.at(528, 0, flip=True):
-    shoe(p, 20, 268, 0, 1.05)
-    p.one(limb("18 210, 18 262", 36, 34, flat=True), limb("-16 210, -16 262", 36, 34, flat=True))
-    p.line("1 226, 1 246", 4)
-    shoe(p, -16, 268, 0, 1.05)
+    shoe(p, 25, 324, 0, 1.05)
+    p.one(limb("16 210, 24 262, 26 318", 38, 32, flat=True), limb("-14 210, -22 262, -24 318", 38, 32, flat=True))
+    shoe(p, -25, 324, 0, 1.05)
     palm(p, 104, 108, -24, .92, "open", 1)
     p.shape(limb("20 156, 62 146, 106 108", 34, 30, 24, flat=True))
     p.shape(limb("4 110, 2 138", 30, 30))
