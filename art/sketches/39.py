@@ -1,6 +1,6 @@
+from faces import head
 from hand import *
 from limbs import palm, sleeve
-from people import *
 
 p = Page("39", "Skating: the girl leans forward at full speed, the boy has fallen, his cap is still in the air")
 
@@ -36,6 +36,7 @@ with p.at(278, 292):
         p.shape("-18 -14!, -20 16!, 44 16!, 42 -2, 16 -14!")
         p.shape("-24 16!, 58 16!, 58 28!, -24 28!")
     p.shape("36 -62, 0 -98, -48 -104, -92 -78!, -96 -100!, -50 -124, 10 -116, 56 -84")
+    p.shape("40 -86!, 62 -66, 112 -58!, 110 -38, 70 -32, 34 -60!")
     with p.at(92, -106, 1, 4):
         head(p, "side", "pony", mouth="open", brows=3)
         p.shape("46 -18!, 30 -60, -14 -66, -50 -40, -54 -4!, -20 -20, 10 -26")
@@ -43,12 +44,9 @@ with p.at(278, 292):
         p.shape(scallops(oval(-22, -68, 15), 7, .4))
     palm(p, 104, 34, -14, 1.15, "open", 1)
     sleeve(p, "44 -22, 50 40, 106 34", 50, 44, 32)
-    p.one("40 -62, 72 -76, 94 -62, 84 -40, 50 -36")
 
 p.note("the boy has fallen: profile, he looks up at his cap")
 with p.at(540, 392, flip=True):
-    palm(p, -66, 66, 100, 1.1, "open", -1)
-    p.shape(limb("-14 14, -60 26, -66 68", 38, 34, 28, flat=True))
     with p.at(78, 8, 1, -50):
         p.shape("-16 -10!, -18 14!, 34 14!, 34 0, 14 -12!")
         p.shape("-24 14!, 44 14!, 44 26!, -24 26!")
@@ -60,7 +58,7 @@ with p.at(540, 392, flip=True):
         p.shape("-24 14!, 50 14!, 50 26!, -24 26!")
     p.line("-44 62, -10 72, 30 66", 4)
     with p.at(-8, -72, .88, -24):
-        head(p, "side", "curly", mouth="o", brows=5)
+        head(p, "side", "curly", mouth="open", brows=5)
     palm(p, 76, -34, -64, 1.1, "open", 1)
     sleeve(p, "-6 14, 46 22, 76 -36", 44, 38, 29)
 with p.at(560, 196, 1, 20):
