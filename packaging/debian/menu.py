@@ -8,6 +8,7 @@ import pathlib
 import signal
 import subprocess
 import sys
+import tempfile
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "tests/e2e"))
 # pylint: disable=wrong-import-position
@@ -49,14 +50,17 @@ class Desktop(Screen):
         self.root = pathlib.Path(root).resolve()
 
     def inside(self, *command):
-        """Runs a command as the user; gives what it prints."""
-        run = subprocess.run(["chroot", self.root, "setpriv", f"--reuid={USER}", f"--regid={USER}", "--clear-groups", "env", "-i",
-                              "PATH=/usr/bin:/bin", f"HOME={HOME}", "LC_ALL=C.UTF-8", f"DISPLAY={self.env['DISPLAY']}",
-                              "QT_SCALE_FACTOR=1", *command], stdin=subprocess.DEVNULL, capture_output=True, text=True, timeout=60,
-                             check=False)
+        """Runs a command as the user; gives what it prints. What it starts and leaves behind may print for longer."""
+        with tempfile.TemporaryFile("w+") as said:
+            run = subprocess.run(["chroot", self.root, "setpriv", f"--reuid={USER}", f"--regid={USER}", "--clear-groups", "env", "-i",
+                                  "PATH=/usr/bin:/bin", f"HOME={HOME}", "LC_ALL=C.UTF-8", f"DISPLAY={self.env['DISPLAY']}",
+                                  "QT_SCALE_FACTOR=1", *command], stdin=subprocess.DEVNULL, stdout=said, stderr=said, timeout=60,
+                                 check=False)
+            said.seek(0)
+            words = said.read()
         if run.returncode:
-            raise NotSeen(f"{' '.join(command)}: {run.stderr}")
-        return run.stdout
+            raise NotSeen(f"{' '.join(command)}: {words}")
+        return words
 
     def running(self):
         """The ids of the program's processes inside."""

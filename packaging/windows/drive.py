@@ -22,6 +22,7 @@ GLANCE = 0.02    # seconds between two looks at the screen
 BESIDE = 160     # pixels at the left of the screen, where the studio has its tools and tells the place; the sheet comes after them
 BUSY = 9.0       # seconds after which it moves by itself (the bar of an effect runs for five)
 SAVED = "C:/prent.bmp"  # letters that every keyboard has
+FAMILY = "Andika"
 EFFECTS = ("GRIJS RELIEF", "KLEUREN OMKEREN", "VERVAGEN")
 
 
@@ -151,6 +152,10 @@ class Painter(tour.Tour):
         self.desktop.click(*sheet.at(30, 60))
         program.wait_window("Hoe wil je de tekst ?")
         self.desktop.type("Dag Emma")
+        # A typeface that comes with both packages: the first choice is the twelfth that the system has.
+        program.control("lettertype").click()
+        self.desktop.type(FAMILY)
+        self.desktop.key("Return")
         program.control("Voeg in").click()
         program.wait_gone("Hoe wil je de tekst ?")
         self.stage("a text")
