@@ -3,8 +3,8 @@
 #include "effects/neighbour_effects.h"
 
 #include <algorithm>
-#include <array>
 #include <cstdint>
+#include <cstring>
 #include <vector>
 
 #include "surface/raster/versions.h"
@@ -31,35 +31,68 @@ struct Inner {
   int first, last;
 };
 
-inline void sumTriples(const Byte* __restrict row, Sum* __restrict sums, Inner inner) {
-  for (int i = inner.first; i < inner.last; ++i)
-    sums[i] = static_cast<Sum>(row[i - PixelBytes] + row[i] + row[i + PixelBytes]);
+// Two bytes next to each other; taken apart by masks, since to widen bytes takes longer.
+using Pair = std::uint16_t;
+constexpr int PixelPairs = sizeof(Pixel) / sizeof(Pair);
+
+inline Pair pairAt(const Byte* row, int i) {
+  Pair pair;
+  std::memcpy(&pair, row + i * sizeof(Pair), sizeof(Pair));
+  return pair;
+}
+inline void setPair(Byte* row, int i, Pair pair) {
+  std::memcpy(row + i * sizeof(Pair), &pair, sizeof(Pair));
+}
+
+// To the sums of three rows, for the low and the high bytes of the pairs: one row comes, one goes.
+inline void slide(const Byte* __restrict coming, const Byte* __restrict going, Sum* __restrict low,
+                  Sum* __restrict high, int pairs) {
+  for (int i = 0; i < pairs; ++i) {
+    const Pair in = pairAt(coming, i), out = pairAt(going, i);
+    low[i] = static_cast<Sum>(low[i] + (in & 0xFF) - (out & 0xFF));
+    high[i] = static_cast<Sum>(high[i] + (in >> 8) - (out >> 8));
+  }
 }
 
 // A ninth of a whole number never lies halfway, so adding half of nine rounds to the nearest; 7282
 // / 65536 is a ninth closely enough for all sums up to 2295.
-inline void meanOfTriples(const Sum* __restrict above, const Sum* __restrict here,
-                          const Sum* __restrict below, Byte* __restrict to, Inner inner) {
-  for (int i = inner.first; i < inner.last; ++i) {
-    const auto sum = static_cast<Sum>(above[i] + here[i] + below[i] + 4);
-    to[i] = static_cast<Byte>(std::uint32_t{sum} * 7282 >> 16);
-  }
+inline Sum meanOfThree(const Sum* sums, int i) {
+  const auto sum = static_cast<Sum>(sums[i - PixelPairs] + sums[i] + sums[i + PixelPairs] + 4);
+  return static_cast<Sum>(std::uint32_t{sum} * 7282 >> 16);
+}
+
+inline void setMeans(Byte* __restrict to, const Sum* __restrict low, const Sum* __restrict high,
+                     int pairs) {
+  for (int i = PixelPairs; i < pairs - PixelPairs; ++i)
+    setPair(to, i, static_cast<Pair>(meanOfThree(low, i) | meanOfThree(high, i) << 8));
 }
 
 WIDE_VERSIONS
 void blur(const Bitmap& from, Bitmap& to) {
-  const Inner inner(from);
-  const auto length = static_cast<std::size_t>(from.width()) * PixelBytes;
-  std::vector<Sum> memory(3 * length);
-  // The sums of three rows, each taken once.
-  std::array<Sum*, 3> sums = {memory.data(), memory.data() + length, memory.data() + 2 * length};
-  sumTriples(bytesOf(from, 0), sums[0], inner);
-  sumTriples(bytesOf(from, 1), sums[1], inner);
+  const int pairs = from.width() * PixelPairs;
+  const auto length = static_cast<std::size_t>(pairs);
+  std::vector<Sum> low(length), high(length);
+  const std::vector<Byte> none(length * sizeof(Pair));
+  slide(bytesOf(from, 0), none.data(), low.data(), high.data(), pairs);
+  slide(bytesOf(from, 1), none.data(), low.data(), high.data(), pairs);
   for (int y = 1; y < from.height() - 1; ++y) {
-    sumTriples(bytesOf(from, y + 1), sums[2], inner);
-    meanOfTriples(sums[0], sums[1], sums[2], bytesOf(to, y), inner);
-    std::rotate(sums.begin(), sums.begin() + 1, sums.end());
+    slide(bytesOf(from, y + 1), y > 1 ? bytesOf(from, y - 2) : none.data(), low.data(), high.data(),
+          pairs);
+    setMeans(bytesOf(to, y), low.data(), high.data(), pairs);
   }
+}
+
+// Half of 3 * here - there, a half going to the even side, within a byte. All of it fits into
+// bytes: half the difference lies round 128.
+inline Byte sharpened(Byte here, Byte there) {
+  const auto inverse = static_cast<Byte>(~there);
+  const auto floored = static_cast<Byte>((here + inverse + 1) >> 1);
+  const auto half = static_cast<Byte>(floored + ((here ^ there) & (here ^ floored) & 1));
+  const auto more = static_cast<Byte>(std::max<Byte>(half, 128) - 128);
+  const auto less = static_cast<Byte>(128 - std::min<Byte>(half, 128));
+  const auto room = static_cast<Byte>(~here);
+  const auto raised = static_cast<Byte>(here + std::min(more, room));
+  return static_cast<Byte>(std::max(raised, less) - less);
 }
 
 WIDE_VERSIONS
@@ -69,13 +102,17 @@ void sharpen(const Bitmap& from, Bitmap& to) {
     const Byte* __restrict here = bytesOf(from, y);
     const Byte* __restrict upperLeft = bytesOf(from, y - 1) - PixelBytes;
     Byte* __restrict result = bytesOf(to, y);
-    for (int i = inner.first; i < inner.last; ++i) {
-      // Twice the new value, whole; an odd one goes to the even side.
-      const auto twice = static_cast<std::int16_t>(3 * here[i] - upperLeft[i]);
-      const auto bounded = std::clamp<std::int16_t>(twice, 0, 510);
-      result[i] = static_cast<Byte>((bounded + ((bounded >> 1) & 1)) >> 1);
-    }
+    for (int i = inner.first; i < inner.last; ++i) result[i] = sharpened(here[i], upperLeft[i]);
   }
+}
+
+// How far here - there + 128 lies from zero, 255 at most. One of rise and fall is zero; a fall
+// beyond 128 comes back from below.
+inline Byte embossed(Byte here, Byte there) {
+  const auto rise = static_cast<Byte>(here - std::min(here, there));
+  const auto fall = static_cast<Byte>(there - std::min(here, there));
+  const auto down = std::min<Byte>(fall, 128), up = std::min<Byte>(rise, 127);
+  return static_cast<Byte>(128 + up + fall - 2 * down);
 }
 
 WIDE_VERSIONS
@@ -88,11 +125,8 @@ void emboss(const Bitmap& from, Bitmap& to) {
     const Byte* __restrict here = bytesOf(from, y);
     const Byte* __restrict lowerRight = bytesOf(from, y + 1) + PixelBytes;
     Byte* __restrict result = bytesOf(to, y);
-    for (int i = inner.first; i < inner.last; ++i) {
-      const auto slope = static_cast<std::int16_t>(here[i] - lowerRight[i] + 128);
-      const auto steep = static_cast<std::int16_t>(slope < 0 ? -slope : slope);
-      result[i] = static_cast<Byte>(std::min<std::int16_t>(steep, 255) | mask[i]);
-    }
+    for (int i = inner.first; i < inner.last; ++i)
+      result[i] = static_cast<Byte>(embossed(here[i], lowerRight[i]) | mask[i]);
   }
 }
 
