@@ -11,7 +11,6 @@
 #include <cstring>
 #include <filesystem>
 #include <functional>
-#include <map>
 #include <memory>
 #include <opencv2/core.hpp>
 #include <opencv2/imgproc.hpp>
@@ -19,6 +18,7 @@
 #include <string>
 #include <vector>
 
+#include "../times.h"
 #include "effects/displacements.h"
 #include "effects/gradient.h"
 #include "effects/neighbour_effects.h"
@@ -104,15 +104,25 @@ void sharpenInTwo(Sheet& s) {
   cv::addWeighted(s.inner(0, 0), 3, s.inner(-1, -1), -1, 0, s.step, CV_16S);
   s.step.convertTo(to, CV_8U, 0.5);
 }
+void sharpenInOne(Sheet& s) {
+  cv::Mat to = s.innerResult();
+  cv::addWeighted(s.inner(0, 0), 1.5, s.inner(-1, -1), -0.5, 0, to);
+}
 void embossInTwo(Sheet& s) {
   cv::Mat to = s.innerResult();
   cv::subtract(s.inner(0, 0), s.inner(1, 1), s.step, cv::noArray(), CV_16S);
   cv::convertScaleAbs(s.step, to, 1, 128);
 }
-void turnByPainter(Sheet& s) {
+void embossByFilter(Sheet& s) {
+  static const cv::Mat slope = (cv::Mat_<float>(3, 3) << 0, 0, 0, 0, 1, 0, 0, 0, -1);
+  cv::Mat to = s.innerResult();
+  cv::filter2D(s.inner(0, 0), s.step, CV_16S, slope, {-1, -1}, 128);
+  cv::convertScaleAbs(s.step, to);
+}
+void turnByPainter(Sheet& s, int degrees) {
   QPainter painter(&s.imageResult);
   painter.translate(s.size.width / 2.0, s.size.height / 2.0);
-  painter.rotate(-30);
+  painter.rotate(-degrees);
   painter.translate(-s.size.width / 2.0, -s.size.height / 2.0);
   painter.drawImage(0, 0, s.image);
 }
@@ -120,6 +130,16 @@ void copyBytes(Sheet& s) { std::memcpy(s.matrixResult.data, s.matrix.data, s.mat
 
 // The result is dropped, and its memory is there for the next one, as on a sheet.
 void keep(const Bitmap& result) { benchmark::DoNotOptimize(result.at(0, 0)); }
+
+Discipline turn(const char* name, int degrees) {
+  return {name,
+          1,
+          0,
+          [angle = static_cast<float>(degrees * 3.14159265359 / 180)](Sheet& s) {
+            effects::rotateInto(s.picture, s.result, angle);
+          },
+          {{"QPainter", [degrees](Sheet& s) { turnByPainter(s, degrees); }}}};
+}
 
 std::vector<Discipline> disciplines() {
   const Peer copy{"memcpy", copyBytes};
@@ -137,11 +157,16 @@ std::vector<Discipline> disciplines() {
        0,
        [](Sheet& s) { keep(effects::sharpened(s.picture)); },
        {byOpenCv(sharpenInTwo)}},
+      {"sharpen, in one pass",
+       1,
+       0,
+       [](Sheet& s) { keep(effects::sharpened(s.picture)); },
+       {byOpenCv(sharpenInOne)}},
       {"emboss",
        0.33,
        0,
        [](Sheet& s) { keep(effects::embossed(s.picture)); },
-       {byOpenCv(embossInTwo)}},
+       {byOpenCv(embossInTwo), {"filter2D", embossByFilter}}},
       {"brightness",
        0.8,
        0,
@@ -160,13 +185,12 @@ std::vector<Discipline> disciplines() {
        {copy}},
       {"mirror left to right", 1.3, 0, [](Sheet& s) { keep(mirrored(s.picture, true)); }, {copy}},
       {"mirror top to bottom", 1.3, 0, [](Sheet& s) { keep(mirrored(s.picture, false)); }, {copy}},
-      {"rotate by 30",
-       1,
-       0,
-       [](Sheet& s) {
-         effects::rotateInto(s.picture, s.result, static_cast<float>(30 * 3.14159265359 / 180));
-       },
-       {{"QPainter", turnByPainter}}},
+      turn("rotate by 15", 15),
+      turn("rotate by 30", 30),
+      turn("rotate by 45", 45),
+      turn("rotate by 75", 75),
+      turn("rotate by 90", 90),
+      turn("rotate by 180", 180),
       {"hammer", 0, 12, [](Sheet& s) { keep(effects::hammered(s.picture)); }, {}},
       {"scatter", 0, 10, [](Sheet& s) { keep(effects::scattered(s.picture, Rnd)); }, {}},
   };
@@ -214,26 +238,6 @@ std::vector<Discipline> studioDisciplines() {
   return all;
 }
 
-// The fastest repetition of every run, in milliseconds: the least disturbed one says most.
-class Times : public benchmark::ConsoleReporter {
- public:
-  void ReportRuns(const std::vector<Run>& runs) override {
-    for (const Run& run : runs) {
-      if (run.run_type != Run::RT_Iteration) continue;
-      const double time = run.GetAdjustedCPUTime();
-      const auto [at, fresh] = best_.try_emplace(run.run_name.function_name, time);
-      if (!fresh) at->second = std::min(at->second, time);
-    }
-  }
-  double of(const std::string& name) const {
-    const auto found = best_.find(name);
-    return found == best_.end() ? std::nan("") : found->second;
-  }
-
- private:
-  std::map<std::string, double> best_;
-};
-
 std::string runName(const Discipline& d, const Sheet& s, const char* who) {
   return std::string(d.name) + "/" + s.size.name() + "/" + who;
 }
@@ -249,12 +253,12 @@ void enter(const Discipline& d, Sheet& s) {
 }
 
 bool row(const Discipline& d, const Sheet& s, const Times& times) {
-  const double ours = times.of(runName(d, s, "ours"));
+  const double ours = times.milliseconds(runName(d, s, "ours"));
   if (std::isnan(ours)) return true;  // not asked for
   double best = 0;
   const char* who = "-";
   for (const auto& [name, job] : d.peers) {
-    const double time = times.of(runName(d, s, name));
+    const double time = times.milliseconds(runName(d, s, name));
     if (best == 0 || time < best) {
       best = time;
       who = name;

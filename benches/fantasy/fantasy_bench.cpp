@@ -2,14 +2,12 @@
 // random number to the list of what the screen must show anew. Closes with a table of the bars.
 #include <benchmark/benchmark.h>
 
-#include <algorithm>
-#include <cmath>
 #include <cstdio>
 #include <cstring>
-#include <map>
 #include <string>
 #include <vector>
 
+#include "../times.h"
 #include "fantasy/bliksem.h"
 #include "fantasy/bloem.h"
 #include "fantasy/modKaleidos.h"
@@ -140,26 +138,6 @@ void wholeWindow(benchmark::State& state) {
   }
 }
 
-// The fastest repetition of every run, in milliseconds: the least disturbed one says most.
-class Times : public benchmark::ConsoleReporter {
- public:
-  void ReportRuns(const std::vector<Run>& runs) override {
-    for (const Run& run : runs) {
-      if (run.run_type != Run::RT_Iteration) continue;
-      const double time = run.GetAdjustedCPUTime() / 1000;
-      const auto [at, fresh] = best_.try_emplace(run.run_name.function_name, time);
-      if (!fresh) at->second = std::min(at->second, time);
-    }
-  }
-  double of(const std::string& name) const {
-    const auto found = best_.find(name);
-    return found == best_.end() ? std::nan("") : found->second;
-  }
-
- private:
-  std::map<std::string, double> best_;
-};
-
 struct Contest {
   const char* name;
   void (*run)(benchmark::State&);
@@ -174,9 +152,9 @@ constexpr Contest Contests[] = {{"fireworks", fireworks, 1}, {"kaleidoscope", ka
 bool table(const Times& times) {
   bool good = true;
   std::printf("\none tick on %d by %d; a copy of the whole window takes %.3f ms\n", Width, Height,
-              times.of("window"));
+              times.milliseconds("window"));
   for (const Contest& contest : Contests) {
-    const double time = times.of(contest.name);
+    const double time = times.milliseconds(contest.name);
     const bool reached = time <= contest.bar;
     good &= reached;
     std::printf("%-14s %8.4f ms  at most %4.1f%s\n", contest.name, time, contest.bar,

@@ -3,11 +3,12 @@
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
 #include <cstdlib>
-#include <map>
 #include <string>
 
+#include "../times.h"
 #include "contender.h"
 
 namespace {
@@ -82,29 +83,6 @@ std::string runName(const Discipline& discipline, Size size, const Entrant& entr
   return std::string(discipline.name) + "/" + sizeName(size) + "/" + entrant.name;
 }
 
-/// The fastest repetition of every run, in milliseconds: on a shared machine the least disturbed
-/// one says most. Interleaved repetitions spread the disturbance over all runs.
-class Times : public benchmark::ConsoleReporter {
- public:
-  void ReportRuns(const std::vector<Run>& runs) override {
-    for (const Run& run : runs) {
-      if (run.run_type != Run::RT_Iteration || run.error_occurred) continue;
-      const double ms = run.GetAdjustedCPUTime();
-      const auto [at, fresh] = best_.try_emplace(run.run_name.function_name, ms);
-      if (!fresh) at->second = std::min(at->second, ms);
-    }
-  }
-
-  /// 0 if there was no such run.
-  double of(const std::string& name) const {
-    const auto found = best_.find(name);
-    return found == best_.end() ? 0 : found->second;
-  }
-
- private:
-  std::map<std::string, double> best_;
-};
-
 /// Stops the race if a peer paints another picture: then its time says nothing. The widest gap is
 /// that of OpenCV, which knows odd widths only and makes 9 of 8.
 void checkPainted(const std::string& name, long ours, long theirs) {
@@ -153,7 +131,7 @@ struct Best {
 Best bestPeer(const Times& times, const Discipline& discipline, Size size) {
   Best best;
   for (const Entrant& peer : kPeers) {
-    const double time = times.of(runName(discipline, size, peer));
+    const double time = times.milliseconds(runName(discipline, size, peer));
     if (time > 0 && (best.time == 0 || time < best.time)) best = {peer.name, time};
   }
   return best;
@@ -172,9 +150,9 @@ void printTable(const Times& times, const std::vector<Pictures>& sheets) {
     Best sum{"", 0};
     double ourSum = 0, slowest = 0;
     for (const Discipline& discipline : kDisciplines) {
-      const double ours = times.of(runName(discipline, pictures.size, kOurs));
+      const double ours = times.milliseconds(runName(discipline, pictures.size, kOurs));
       const Best best = bestPeer(times, discipline, pictures.size);
-      if (ours == 0 || best.time == 0) continue;
+      if (std::isnan(ours) || best.time == 0) continue;
       printRow(discipline.name, pictures.size, ours, best, discipline.bar);
       if (std::string(discipline.name).rfind("fill", 0) != 0) continue;
       sum = {best.name, sum.time + best.time};
@@ -193,12 +171,12 @@ void printAll(const Times& times, const std::vector<Pictures>& sheets) {
   for (const Entrant& peer : kPeers) std::printf(" %10s", peer.name);
   for (const Pictures& pictures : sheets) {
     for (const Discipline& discipline : kDisciplines) {
-      const double ours = times.of(runName(discipline, pictures.size, kOurs));
-      if (ours == 0) continue;
+      const double ours = times.milliseconds(runName(discipline, pictures.size, kOurs));
+      if (std::isnan(ours)) continue;
       std::printf("\n%-27s %-10s %10.4f", discipline.name, sizeName(pictures.size).c_str(), ours);
       for (const Entrant& peer : kPeers) {
-        const double time = times.of(runName(discipline, pictures.size, peer));
-        time == 0 ? std::printf(" %10s", "-") : std::printf(" %10.4f", time);
+        const double time = times.milliseconds(runName(discipline, pictures.size, peer));
+        std::isnan(time) ? std::printf(" %10s", "-") : std::printf(" %10.4f", time);
       }
     }
   }

@@ -11,12 +11,12 @@
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
-#include <map>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "../raster/contender.h"
+#include "../times.h"
 #include "small/frmKleurplaat.h"
 #include "studio/frmTekenen2.h"
 #include "surface/host.h"
@@ -219,32 +219,6 @@ double firstTextForm() {
   return taken.count();
 }
 
-// The fastest repetition of every run, in microseconds: the least disturbed one says most.
-class Times : public benchmark::ConsoleReporter {
- public:
-  void ReportRuns(const std::vector<Run>& runs) override {
-    for (const Run& run : runs) {
-      if (run.run_type != Run::RT_Iteration) continue;
-      const double time = run.GetAdjustedCPUTime();
-      const auto [at, fresh] = best_.try_emplace(run.run_name.function_name, time);
-      if (!fresh) at->second = std::min(at->second, time);
-    }
-  }
-  double of(const std::string& name) const {
-    const auto found = best_.find(name);
-    return found == best_.end() ? std::nan("") : found->second;
-  }
-  double bestPeer() const {
-    double best = 0;
-    for (const auto& [name, time] : best_)
-      if (name.starts_with("peer: ") && (best == 0 || time < best)) best = time;
-    return best;
-  }
-
- private:
-  std::map<std::string, double> best_;
-};
-
 bool row(const char* what, double value, double bar, const char* unit) {
   std::printf("%-44s %9.3f  at most %7.2f %-24s%s\n", what, value, bar, unit,
               value <= bar ? "" : "  MISSED");
@@ -253,21 +227,24 @@ bool row(const char* what, double value, double bar, const char* unit) {
 
 bool table(const Times& times, double firstOpening, double firstText) {
   bool good = true;
-  std::printf("\nart line: ours %.1f us, the best peer's lines %.1f us\n", times.of("art line"),
-              times.bestPeer());
-  good &= row("pencil move, 617 x 537", times.of("pencil 617"), 50, "us");
-  good &= row("pencil move, 1500 x 1500", times.of("pencil 1500"), 50, "us");
-  good &= row("art line, 24 moves of the real handler", times.of("art line") / times.bestPeer(),
-              0.5, "of the best peer's lines");
-  good &= row("press: snapshots and first dot", times.of("press") / times.of("memcpy"), 2.3,
+  std::printf("\nart line: ours %.1f us, the best peer's lines %.1f us\n",
+              1000 * times.milliseconds("art line"), 1000 * times.leastMilliseconds("peer: "));
+  good &= row("pencil move, 617 x 537", 1000 * times.milliseconds("pencil 617"), 50, "us");
+  good &= row("pencil move, 1500 x 1500", 1000 * times.milliseconds("pencil 1500"), 50, "us");
+  good &= row("art line, 24 moves of the real handler",
+              times.milliseconds("art line") / times.leastMilliseconds("peer: "), 0.5,
+              "of the best peer's lines");
+  good &= row("press: snapshots and first dot",
+              times.milliseconds("press") / times.milliseconds("memcpy"), 2.3,
               "of a memcpy of the sheet");
-  good &= row("fill, press to repainted window", times.of("fill") / 1000, 3, "ms");
-  good &= row("seven panels and closing, each", times.of("panels") / 7 / 1000, 16, "ms");
+  good &= row("fill, press to repainted window", times.milliseconds("fill"), 3, "ms");
+  good &= row("seven panels and closing, each", times.milliseconds("panels") / 7, 16, "ms");
   good &= row("a panel's first opening, the slowest", firstOpening, 16, "ms");
   good &= row("a text form's first opening", firstText, 100, "ms");
-  good &= row("a text form of 300 fonts opens", times.of("text form") / 1000, 100, "ms");
-  good &= row("text of depth 10, click to repainted sheet", times.of("deep text") / 1000, 30, "ms");
-  good &= row("a screen of colouring pages opens", times.of("pages") / 1000, 150, "ms");
+  good &= row("a text form of 300 fonts opens", times.milliseconds("text form"), 100, "ms");
+  good &=
+      row("text of depth 10, click to repainted sheet", times.milliseconds("deep text"), 30, "ms");
+  good &= row("a screen of colouring pages opens", times.milliseconds("pages"), 150, "ms");
   return good;
 }
 
