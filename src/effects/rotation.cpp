@@ -242,6 +242,7 @@ class Rotation {
     const double scale = nearestInt(distance) / distance;
     const double p = (u * cosine_ - v * sine_) * scale, q = (u * sine_ + v * cosine_) * scale;
     const int P = nearestInt(p), Q = nearestInt(q);
+    if (v == 0) return {P, Q};  // nothing is left out
     const double sure = 0.5 - distance * 1e-7;
     if (std::abs(p - P) < sure && std::abs(q - Q) < sure) return {P, Q};
     return exactOffset(u, v, angle_);
@@ -348,19 +349,21 @@ class Rotation {
   // Columns of the source become rows: in strips, for which a few rows of the source are read side
   // by side.
   void turnByOneQuarter(int s, Span across, Span down) {
-    constexpr int Width = 16;
-    const std::ptrdiff_t step = std::ptrdiff_t{s} * source_.width();
-    for (int left = across.first; left < across.last; left += Width)
-      for (int v = down.first; v < down.last; ++v) {
-        Pixel* const to = target_.row(ty_ + v) + tx_ + left;
-        const Pixel* const from = middle_ + left * step - std::ptrdiff_t{v} * s;
-        if (left + Width <= across.last) {
-#pragma GCC unroll 16
+    constexpr int Width = 32;
+    const std::ptrdiff_t step = std::ptrdiff_t{s} * source_.width(), row = target_.width();
+    for (int left = across.first; left < across.last; left += Width) {
+      Pixel* to = target_.row(ty_ + down.first) + tx_ + left;
+      const Pixel* from = middle_ + left * step - std::ptrdiff_t{down.first} * s;
+      const int count = std::min(Width, across.last - left);
+      for (int v = down.first; v < down.last; ++v, to += row, from -= s) {
+        if (count == Width) {
+#pragma GCC unroll 32
           for (int i = 0; i < Width; ++i) to[i] = from[i * step];
         } else {
-          for (int i = 0; i < across.last - left; ++i) to[i] = from[i * step];
+          for (int i = 0; i < count; ++i) to[i] = from[i * step];
         }
       }
+    }
   }
 
   const Bitmap& source_;
