@@ -142,6 +142,58 @@ TEST(Enlarged, WhatIsTransparentStaysSo) {
   EXPECT_EQ(qAlpha(large.pixel(1, 2)), 128) << "half of the square's edge";
 }
 
+TEST(Enlarged, EveryPartIsThatPartOfTheWhole) {
+  std::mt19937 random(3);
+  const QImage image = colourful(70, 50);
+  for (const double factor : factors) {
+    const QRectF place(QPointF(5 * factor, 9 * factor), QSizeF(image.size()) * factor);
+    const QRect all = place.toAlignedRect();
+    const QImage whole = enlarged(image, place, all);
+    const auto below = [&](int end) {
+      return static_cast<int>(random() % static_cast<unsigned>(end));
+    };
+    for (int i = 0; i < 100; ++i) {
+      const QPoint corner(below(all.width()), below(all.height()));
+      const QRect part(
+          corner, QSize(1 + below(all.width() - corner.x()), 1 + below(all.height() - corner.y())));
+      ASSERT_EQ(enlarged(image, place, part.translated(all.topLeft())), whole.copy(part))
+          << factor << ": " << part.x() << ", " << part.y();
+    }
+  }
+}
+
+TEST(Enlarged, AMixtureIsRoundedToNearestAlongEachAxis) {
+  const QImage image = colourful(40, 30);
+  const auto mixed = [](double a, double b, double share) {
+    return std::floor(a * (1 - share) + b * share + 0.5);
+  };
+  for (const double factor : {1.25, 1.75, 2.5}) {
+    const QRectF place(QPointF(), QSizeF(image.size()) * factor);
+    const QRect all(0, 0, static_cast<int>(place.width()), static_cast<int>(place.height()));
+    const QImage large = enlarged(image, place, all);
+    // The pixel at an edge or corner, and how much of it is the next one's.
+    const auto split = [factor](int at) {
+      const int first = static_cast<int>(at / factor);
+      return std::pair(first, std::max(0.0, at + 1 - (first + 1) * factor));
+    };
+    for (int y = 0; y + 1 < all.height(); ++y)
+      for (int x = 0; x + 1 < all.width(); ++x) {
+        const auto [column, right] = split(x);
+        const auto [row, below] = split(y);
+        const int nextColumn = column + (right > 0), nextRow = row + (below > 0);
+        for (const unsigned shift : {0, 8, 16}) {
+          const auto channel = [shift](QRgb pixel) { return pixel >> shift & 0xFF; };
+          const auto across = [&, right = right, column = column](int line) {
+            return mixed(channel(image.pixel(column, line)), channel(image.pixel(nextColumn, line)),
+                         right);
+          };
+          ASSERT_EQ(channel(large.pixel(x, y)), mixed(across(row), across(nextRow), below))
+              << factor << ": " << x << ", " << y;
+        }
+      }
+  }
+}
+
 TEST(Enlarged, TheDamageReachesEveryDevicePixelThatAChangeDoes) {
   for (const double factor : factors)
     for (int pixel = 0; pixel < 40; ++pixel) {
@@ -152,6 +204,14 @@ TEST(Enlarged, TheDamageReachesEveryDevicePixelThatAChangeDoes) {
                 static_cast<int>(std::ceil((pixel + 1) * factor - 1e-9)));
       EXPECT_LE(area.width(), 3) << "and little more";
     }
+}
+
+TEST(Enlarged, TheDamageGrowsNothingWhereTheEdgesAreThoseOfDevicePixels) {
+  const QRect tile(16, 32, 8, 16);
+  for (const double factor : {1.0, 1.125, 1.75, 2.375, 4.0}) EXPECT_EQ(damaged(tile, factor), tile);
+  EXPECT_EQ(damaged(tile, 1.75, QPoint(1, 2)), tile.adjusted(-1, -1, 1, 1));
+  EXPECT_EQ(damaged(tile, 1.5, QPoint(1, 2)), tile.adjusted(-1, 0, 1, 0));
+  EXPECT_EQ(damaged(tile, 1.1), tile.adjusted(-1, -1, 1, 1));
 }
 
 TEST(Enlarged, ThePointerHitsThePixelThatIsMostOfADevicePixel) {
@@ -260,6 +320,41 @@ TEST_F(AtTheFactor, WhatIsRepaintedIsAsSharpAsTheWhole) {
   ASSERT_TRUE(seen);
   EXPECT_EQ(seen->convertToFormat(QImage::Format_RGB32),
             shown(desk).convertToFormat(QImage::Format_RGB32));
+}
+
+namespace {
+
+// An animation on the window itself, with buttons above it.
+class Sparks : public Form {
+ public:
+  Sparks() : Form({.Width = 4500, .Height = 3000, .ScaleMode = ScalePixels}) {}
+  CommandButton even{*this, {.Left = 240, .Top = 360, .Width = 1455, .Height = 615}};
+  CommandButton odd{*this, {.Left = 2295, .Top = 1155, .Width = 1005, .Height = 405}};
+};
+
+}  // namespace
+
+TEST_F(AtTheFactor, SparksAllOverAWindowAreRepaintedAsSharpAsTheWhole) {
+  Sparks& sky = the<Sparks>();
+  sky.Show();
+  QCoreApplication::processEvents();
+  std::mt19937 random(5);
+  const auto below = [&](unsigned end) { return static_cast<float>(random() % end); };
+  const auto* store = script::widgetOf(sky.odd)->window()->backingStore();
+  for (int tick = 0; tick < 12; ++tick) {
+    if (tick == 8) sky.Cls();
+    for (int i = 0; i < 12; ++i) {
+      const PointF at{below(300), below(200)};
+      sky.Line(at, {at.X + below(9), at.Y + below(9)}, static_cast<Color>(below(0x1000000)), BF);
+    }
+    sky.Line({below(300), below(200)}, {below(300), below(200)}, Pencil);
+    advance(0);
+    const auto* seen = dynamic_cast<QImage*>(const_cast<QBackingStore*>(store)->paintDevice());
+    ASSERT_TRUE(seen);
+    ASSERT_EQ(seen->convertToFormat(QImage::Format_RGB32),
+              shown(sky).convertToFormat(QImage::Format_RGB32))
+        << "tick " << tick;
+  }
 }
 
 namespace {

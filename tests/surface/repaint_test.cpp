@@ -22,6 +22,12 @@ class Painted : public QObject {
   QRect area;
 };
 
+class Meadow : public Form {
+ public:
+  Meadow() : Form({.Width = 3000, .Height = 3000, .ScaleMode = ScalePixels}) {}
+  CommandButton button{*this, {.Left = 600, .Top = 600, .Width = 1500, .Height = 600}};
+};
+
 }  // namespace
 
 class Repainting : public script::Stage {
@@ -72,4 +78,16 @@ TEST_F(Repainting, CallsOnTheDeviceContextAreShownWithoutARefresh) {
   event();
   advance(0);
   EXPECT_TRUE(painted.area.contains(40, 50));
+}
+
+TEST_F(Repainting, WhatIsDrawnBeneathAButtonDoesNotPaintTheButton) {
+  Meadow& meadow = the<Meadow>();
+  meadow.Show();
+  advance(0);
+  QWidget* button = script::widgetOf(meadow.button);
+  Painted above(button), beneath(button->parentWidget());
+  meadow.Line({0, 0}, {150, 100}, Black, BF);
+  advance(0);
+  EXPECT_TRUE(beneath.area.contains(QRect(0, 0, 151, 101)));
+  EXPECT_TRUE(above.area.isEmpty());
 }

@@ -49,6 +49,8 @@ void drawFocus(QPainter& painter, const QRect& area) {
 
 ButtonWidget::ButtonWidget(CommandButton& owner, QWidget& parent)
     : QPushButton(&parent), control(&owner) {
+  // First the style, which takes every button for one that something shines through.
+  ensurePolished();
   setAttribute(Qt::WA_OpaquePaintEvent);
   setAutoDefault(false);
   QObject::connect(this, &QPushButton::clicked, this, [this] {

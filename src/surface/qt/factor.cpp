@@ -3,6 +3,7 @@
 #include "surface/qt/factor.h"
 
 #include <QGuiApplication>
+#include <QPaintEngine>
 #include <QScreen>
 #include <algorithm>
 #include <array>
@@ -12,6 +13,7 @@
 #include <vector>
 
 #include "surface/numbers.h"
+#include "surface/raster/versions.h"
 
 namespace surface::qt {
 namespace {
@@ -23,10 +25,13 @@ constexpr double Tiny = 1e-6;
 
 using Pixel = std::uint32_t;
 
-// A device pixel along one axis: an image pixel, and the share of the next one in 1/256.
+constexpr std::size_t Channels = sizeof(Pixel);
+constexpr std::uint16_t Whole = 256;
+
+// A device pixel along one axis: an image pixel, and the share of the next one.
 struct Cell {
   int first;
-  unsigned share;
+  std::uint16_t share;
 };
 
 std::vector<Cell> cells(double start, double scale, int from, int count, int last) {
@@ -39,27 +44,49 @@ std::vector<Cell> cells(double start, double scale, int from, int count, int las
     if (first < 0 || first >= last)
       all.push_back({std::clamp(first, 0, last), 0});
     else
-      all.push_back({first, static_cast<unsigned>(nearestInt(std::clamp(share, 0.0, 1.0) * 256))});
+      all.push_back(
+          {first, static_cast<std::uint16_t>(nearestInt(std::clamp(share, 0.0, 1.0) * Whole))});
   }
   return all;
 }
 
-// Two channels at a time, rounded to nearest.
-Pixel mixed(Pixel a, Pixel b, unsigned share) {
-  constexpr Pixel Odd = 0x00FF00FF, Half = 0x00800080;
-  const unsigned rest = 256 - share;
-  const Pixel low = ((a & Odd) * rest + (b & Odd) * share + Half) >> 8 & Odd;
-  const Pixel high = ((a >> 8 & Odd) * rest + (b >> 8 & Odd) * share + Half) & ~Odd;
-  return high | low;
+// A channel of two pixels by the share of the second one, rounded to nearest.
+std::uint8_t mixed(std::uint8_t a, std::uint8_t b, std::uint16_t share) {
+  return static_cast<std::uint8_t>(
+      static_cast<std::uint16_t>(a * (Whole - share) + b * share + Whole / 2) / Whole);
 }
 
-// All pixels of two rows by one share, a few at a time in the wide registers.
-void mixRows(const Pixel* upper, const Pixel* lower, unsigned share, Pixel* to, std::size_t count) {
+// The channels of two rows by one share. Like the next one many at a time: no sum leaves 16 bits.
+WIDE_VERSIONS
+void mixRows(const std::uint8_t* __restrict upper, const std::uint8_t* __restrict lower,
+             std::uint16_t share, std::uint8_t* __restrict to, std::size_t count) {
   for (std::size_t i = 0; i < count; ++i) to[i] = mixed(upper[i], lower[i], share);
+}
+
+// Every pixel of a row with the one to the right of it, by a share of its own in each channel.
+WIDE_VERSIONS
+void mixNeighbours(const std::uint8_t* __restrict row, const std::uint16_t* __restrict shares,
+                   std::uint8_t* __restrict to, std::size_t count) {
+  for (std::size_t i = 0; i < count; ++i) to[i] = mixed(row[i], row[i + Channels], shares[i]);
 }
 
 const Pixel* rowOf(const QImage& image, int y) {
   return reinterpret_cast<const Pixel*>(image.constScanLine(y));
+}
+std::uint8_t* channels(Pixel* pixels) { return reinterpret_cast<std::uint8_t*>(pixels); }
+const std::uint8_t* channels(const Pixel* pixels) {
+  return reinterpret_cast<const std::uint8_t*>(pixels);
+}
+
+// Where a block of pixels goes.
+struct Block {
+  Pixel* corner;
+  qsizetype line;  // pixels from row to row
+};
+
+Block blockOf(QImage& image, const QPoint& corner) {
+  return {reinterpret_cast<Pixel*>(image.scanLine(corner.y())) + corner.x(),
+          image.bytesPerLine() / qsizetype{sizeof(Pixel)}};
 }
 
 // An image that fills a place, within bounds in device pixels. What of it is drawn there together
@@ -72,48 +99,98 @@ class Squares {
         across_(cells(place.x(), place.width() / image.width(), bounds.x(), bounds.width(),
                       image.width() - 1)),
         down_(cells(place.y(), place.height() / image.height(), bounds.y(), bounds.height(),
-                    image.height() - 1)) {}
+                    image.height() - 1)) {
+    if (across_.empty()) return;
+    firstColumn_ = across_.front().first;
+    const auto columns = static_cast<std::size_t>(across_.back().first - firstColumn_) + 1;
+    shares_.resize(Channels * columns);
+    sources_.resize(2 * columns);
+    picks_.reserve(across_.size());
+    for (const Cell& cell : across_) {
+      const auto column = static_cast<std::size_t>(cell.first - firstColumn_);
+      picks_.push_back(static_cast<std::uint32_t>(cell.share ? columns + column : column));
+      if (!cell.share) continue;
+      std::fill_n(&shares_[Channels * column], Channels, cell.share);
+      mixes_ = true;
+    }
+    plain_ = !mixes_ && columns == across_.size();
+  }
 
-  /// Paints a part of the bounds into the upper left corner of a block.
-  void paint(const QRect& part, QImage& block) {
-    first_ = across_.data() + (part.x() - corner_.x());
-    const Cell* const down = down_.data() + (part.y() - corner_.y());
-    held_ = {-1, -1};
+  /// Paints a part of the bounds.
+  void paint(const QRect& part, const Block& block) {
+    if (part.isEmpty()) return;
+    const auto left = static_cast<std::size_t>(part.x() - corner_.x());
     const auto width = static_cast<std::size_t>(part.width());
+    part_ = {left, across_[left].first, across_[left + width - 1].first + 1};
+    held_ = {-1, -1};
     for (std::vector<Pixel>& line : lines_) line.resize(width);
-    for (int y = 0; y < part.height(); ++y) {
-      const Cell& cell = down[y];
-      auto* to = reinterpret_cast<Pixel*>(block.scanLine(y));
-      const Pixel* upper = widened(cell.first);
-      if (cell.share)
-        mixRows(upper, widened(cell.first + 1), cell.share, to, width);
+    const Cell* cell = down_.data() + (part.y() - corner_.y());
+    Pixel* to = block.corner;
+    for (int y = 0; y < part.height(); ++y, ++cell, to += block.line) {
+      const Pixel* upper = widened(cell->first);
+      if (cell->share)
+        mixRows(channels(upper), channels(widened(cell->first + 1)), cell->share, channels(to),
+                Channels * width);
       else
         std::memcpy(to, upper, width * sizeof(Pixel));
     }
   }
 
  private:
+  struct Part {
+    std::size_t left;                // device pixels from the bounds' left edge
+    int firstColumn, beyondColumns;  // of the image
+  };
+
   // A row of the image, widened. Two neighbours are at hand, so that each is widened once.
   const Pixel* widened(int y) {
+    if (plain_) return rowOf(image_, y) + part_.firstColumn;
     const std::size_t slot = static_cast<std::size_t>(y) % 2;
     std::vector<Pixel>& line = lines_[slot];
     if (held_[slot] == y) return line.data();
     held_[slot] = y;
-    const Pixel* from = rowOf(image_, y);
-    std::transform(first_, first_ + line.size(), line.begin(), [from](const Cell& cell) {
-      const Pixel* pixel = from + cell.first;
-      return cell.share ? mixed(pixel[0], pixel[1], cell.share) : pixel[0];
-    });
+    takeSources(rowOf(image_, y));
+    const std::uint32_t* const picks = &picks_[part_.left];
+    for (std::size_t i = 0; i < line.size(); ++i) line[i] = sources_[picks[i]];
     return line.data();
+  }
+
+  // What a device pixel of the part can show: the pixels of a row, and behind them their mixtures.
+  void takeSources(const Pixel* row) {
+    const auto first = static_cast<std::size_t>(part_.firstColumn - firstColumn_);
+    const auto count = static_cast<std::size_t>(part_.beyondColumns - part_.firstColumn);
+    row += part_.firstColumn;
+    std::memcpy(&sources_[first], row, count * sizeof(Pixel));
+    if (!mixes_) return;
+    // The last of the image has no neighbour.
+    const std::size_t pairs = part_.beyondColumns < image_.width() ? count : count - 1;
+    mixNeighbours(channels(row), &shares_[Channels * first],
+                  channels(sources_.data() + sources_.size() / 2 + first), Channels * pairs);
   }
 
   const QImage& image_;
   QPoint corner_;
   std::vector<Cell> across_, down_;
-  const Cell* first_ = nullptr;  // the part's
+  bool mixes_ = false;  // any column with its neighbour
+  bool plain_ = false;  // every device pixel is one of the image's, in their order
+  int firstColumn_ = 0;
+  std::vector<std::uint16_t> shares_;  // of the right neighbour, for each channel of a column
+  std::vector<Pixel> sources_;
+  std::vector<std::uint32_t> picks_;  // for each device pixel
+  Part part_{};
   std::array<std::vector<Pixel>, 2> lines_;
   std::array<int, 2> held_{-1, -1};
 };
+
+// The image that a painter paints on, if it takes opaque pixels as they are; else nothing. That of
+// a window does as a rule.
+QImage* imageBeneath(const QPainter& painter) {
+  auto* image = dynamic_cast<QImage*>(painter.paintEngine()->paintDevice());
+  const bool takes = image && image->isDetached() &&
+                     (image->format() == QImage::Format_RGB32 ||
+                      image->format() == QImage::Format_ARGB32_Premultiplied);
+  return takes ? image : nullptr;
+}
 
 }  // namespace
 
@@ -151,13 +228,19 @@ int pixelShownAt(int devicePixel, double factor) {
   return static_cast<int>(std::floor((devicePixel + 0.5) / factor - Tiny));
 }
 
-QRect damaged(const QRect& changed, double factor) {
-  return factor == std::floor(factor) ? changed : changed.adjusted(-1, -1, 1, 1);
+QRect damaged(const QRect& changed, double factor, const QPoint& corner) {
+  const auto shares = [factor](int edge) {
+    const double device = edge * factor;
+    return std::abs(device - std::round(device)) > Tiny ? 1 : 0;
+  };
+  const QRect inWindow = changed.translated(corner);
+  return changed.adjusted(-shares(inWindow.left()), -shares(inWindow.top()),
+                          shares(inWindow.right() + 1), shares(inWindow.bottom() + 1));
 }
 
 QImage enlarged(const QImage& image, const QRectF& place, const QRect& wanted) {
   QImage result(wanted.size(), image.format());
-  Squares(image, place, wanted).paint(wanted, result);
+  Squares(image, place, wanted).paint(wanted, blockOf(result, {}));
   return result;
 }
 
@@ -179,9 +262,23 @@ void drawSquares(QPainter& painter, const QImage& image, const QRect& place, con
       const QRect band = all & QRect(all.left(), top, all.width(), rows);
       if (block.width() < band.width() || block.height() < band.height())
         block = QImage(block.size().expandedTo(band.size()), image.format());
-      squares.paint(band, block);
+      squares.paint(band, blockOf(block, {}));
       painter.drawImage(band.topLeft(), block, QRect(QPoint(), band.size()));
     }
+  }
+}
+
+void showSquares(QPainter& painter, const QImage& image, const QRegion& part) {
+  if (image.isNull() || part.isEmpty()) return;
+  QImage* const screen = imageBeneath(painter);
+  const QRegion seen = painter.paintEngine()->systemClip();
+  if (!screen || seen.isEmpty()) return drawSquares(painter, image, image.rect(), part);
+  const QRectF filled = DevicePixels(painter).exact(image.rect());
+  const QRect all = seen.boundingRect() & filled.toAlignedRect() & screen->rect();
+  Squares squares(image, filled, all);
+  for (const QRect& area : seen) {
+    const QRect wanted = area & all;
+    if (!wanted.isEmpty()) squares.paint(wanted, blockOf(*screen, wanted.topLeft()));
   }
 }
 

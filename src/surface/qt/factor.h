@@ -27,9 +27,9 @@ void chooseFactor(int& argc, char** argv);
 /// The logical pixel that takes up most of a device pixel, both counted from the same edge.
 int pixelShownAt(int devicePixel, double factor);
 
-/// The logical pixels to repaint once those of `changed` have: between whole factors the edge of a
-/// square shares a device pixel with its neighbour.
-QRect damaged(const QRect& changed, double factor);
+/// The logical pixels of a widget to repaint once those of `changed` have: an edge that lies within
+/// a device pixel shares it with its neighbour. `corner` is the widget's place in its window.
+QRect damaged(const QRect& changed, double factor, const QPoint& corner = {});
 
 /// The part `wanted` of what stands, in device pixels, when an image is enlarged to fill `place`.
 /// Each device pixel has the colours of the image by their shares of its area, so that every pixel
@@ -40,6 +40,11 @@ QImage enlarged(const QImage& image, const QRectF& place, const QRect& wanted);
 /// Draws the part of an image that lies in `part` when it fills `place`; both in the painter's own
 /// pixels.
 void drawSquares(QPainter& painter, const QImage& image, const QRect& place, const QRegion& part);
+
+/// Shows the part of a bitmap that a widget of its size is asked to paint anew. The painter is that
+/// of the paint event, as it was made: where it can be, the pixels are written straight into the
+/// window's own, past all that a painter does for an area of many rectangles.
+void showSquares(QPainter& painter, const QImage& image, const QRegion& part);
 
 /// While it lives, the painter counts in device pixels.
 class DevicePixels {

@@ -141,12 +141,34 @@ void subtract(QRegion& region, const QObject* object, const QPoint& origin) {
   if (hides(object)) region -= static_cast<const QWidget*>(object)->geometry().translated(-origin);
 }
 
+// The toolkit takes rectangles in this order as a region as they are, and would search its place
+// for each of them otherwise.
+bool inOrder(const std::vector<QRect>& areas) {
+  return std::adjacent_find(areas.begin(), areas.end(), [](const QRect& a, const QRect& b) {
+           const bool beside =
+               a.top() == b.top() && a.bottom() == b.bottom() && a.right() < b.left();
+           return !beside && a.bottom() >= b.top();
+         }) == areas.end();
+}
+
+QRegion damagedRegion(const QWidget& widget, std::span<const raster::Rect> changed) {
+  const QPoint corner = widget.mapTo(widget.window(), QPoint());
+  std::vector<QRect> areas;
+  areas.reserve(changed.size());
+  for (const raster::Rect& area : changed)
+    areas.push_back(damaged(toQRect(area), widget.devicePixelRatioF(), corner));
+  QRegion region;
+  if (inOrder(areas))
+    region.setRects(areas.data(), static_cast<int>(areas.size()));
+  else
+    for (const QRect& area : areas) region += area;
+  return region;
+}
+
 }  // namespace
 
 void showPixels(QWidget& widget, std::span<const raster::Rect> areas, bool atOnce) {
-  QRegion region;
-  for (const raster::Rect& area : areas)
-    region += damaged(toQRect(area), widget.devicePixelRatioF());
+  QRegion region = damagedRegion(widget, areas);
   for (const QObject* child : widget.children()) subtract(region, child, {});
   if (!widget.isWindow()) {
     const auto& neighbours = widget.parentWidget()->children();

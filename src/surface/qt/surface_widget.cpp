@@ -18,13 +18,7 @@ void paintSurface(QPainter& painter, const DrawingSurface& surface, const QRegio
     return;
   }
   const auto bitmap = surface.bitmap();
-  if (part.isEmpty()) return;
-  const QImage image = wrapped(*bitmap);
-  if (painter.device()->devicePixelRatioF() > 1) {
-    drawSquares(painter, image, image.rect(), part);
-  } else {
-    for (const QRect& area : part) painter.drawImage(area, image, area);
-  }
+  showSquares(painter, wrapped(*bitmap), part);
 }
 
 SurfaceWidget::SurfaceWidget(PictureBox& owner, QWidget& parent)
