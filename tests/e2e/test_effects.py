@@ -2,6 +2,7 @@
 import math
 import unittest
 
+import driver
 import effects
 from pixels import WHITE
 
@@ -58,6 +59,36 @@ class Effects(effects.Case):
         self.desktop.key("Return")
         self.wait_done()
         self.expect(self.saved(), halved, range(66), range(56))
+
+    def test_the_message_comes_above_an_open_question_which_can_be_answered_after_it(self):
+        self.effect("HELDERHEID VERANDEREN")
+        question = self.program.wait_dialog("HELDERHEID INSTELLEN")
+        left, _, width, _ = question.rectangle
+        self.assertTrue(0 <= left and left + width <= self.desktop.size[0])
+        self.program.control("Klaar !!!", role="label")
+        self.desktop.key("Return")
+        driver.until(lambda: self.program.find("Klaar !!!") is None, "end of the message")
+        self.program.wait_dialog("HELDERHEID INSTELLEN")
+        self.desktop.key("ctrl+a")
+        self.desktop.type("50")
+        self.desktop.key("Return")
+        self.program.wait_no_dialog()
+        self.expect(self.saved(), halved, range(66), range(56))
+
+    def test_a_stroke_ends_where_the_message_interrupts_it_and_the_next_one_is_drawn(self):
+        self.effect("VERVAGEN")
+        self.desktop.press(*self.sheet.at(300, 300))
+        self.desktop.move(*self.sheet.at(310, 400))
+        self.program.control("Klaar !!!", role="label")
+        self.desktop.move(*self.sheet.at(100, 450))
+        self.desktop.release()
+        self.program.control("OK", role="push button").click()
+        self.program.wait_no_dialog()
+        self.desktop.move(*self.sheet.at(100, 500))
+        self.sheet.drag((400, 100), (450, 120))
+        strokes = {(x, y) for x, y in self.saved().others(WHITE) if max(x, y) > 70}
+        self.assertTrue(all(300 <= x <= 310 and 300 <= y <= 400 or 400 <= x <= 450 and 100 <= y <= 120 for x, y in strokes))
+        self.assertLessEqual({(300, 300), (310, 400), (400, 100), (450, 120)}, strokes)
 
     def test_hammer_leaves_rings_around_every_tenth_pixel(self):
         self.effect("HAMERSLAG")

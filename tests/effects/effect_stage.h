@@ -16,7 +16,7 @@ class EffectStage : public Studio {
   raster::Bitmap drawNoise(int width, int height) {
     shrinkSheet(width, height);
     pictures::Dice dice(51);
-    const raster::Bitmap picture = pictures::noise(dice, width, height);
+    raster::Bitmap picture = pictures::noise(dice, width, height);
     sheet.Picture = surface::Picture(std::make_shared<raster::Bitmap>(picture));
     return picture;
   }

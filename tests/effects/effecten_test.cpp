@@ -11,7 +11,6 @@
 #include "surface/random.h"
 
 using namespace surface;
-using effects_test::colorAt;
 using effects_test::plain;
 
 namespace {
