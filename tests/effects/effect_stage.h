@@ -1,12 +1,32 @@
 // The large studio with a drawing of many colours on a small sheet, for the scripts of the effects.
 #pragma once
 
+#include <QEvent>
+#include <QWidget>
 #include <functional>
 #include <memory>
 
 #include "effects/pictures.h"
 #include "studio/studio.h"
 #include "surface/app.h"
+
+/// Notes what a window says of itself: its captions, and whether it ever showed the hourglass.
+class Heard : public QObject {
+ public:
+  explicit Heard(QWidget* window) : window_(window) { window->installEventFilter(this); }
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() == QEvent::WindowTitleChange)
+      captions.push_back(window_->windowTitle().toStdString());
+    if (event->type() == QEvent::CursorChange && window_->cursor().shape() == Qt::WaitCursor)
+      hourglass = true;
+    return false;
+  }
+  std::vector<std::string> captions;
+  bool hourglass = false;
+
+ private:
+  QWidget* window_;
+};
 
 class EffectStage : public Studio {
  protected:

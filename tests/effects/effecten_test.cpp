@@ -51,24 +51,6 @@ class Painted : public QObject {
   int times = 0;
 };
 
-// Notes what a window says of itself: its captions, and whether it ever showed the hourglass.
-class Heard : public QObject {
- public:
-  explicit Heard(QWidget* window) : window_(window) { window->installEventFilter(this); }
-  bool eventFilter(QObject*, QEvent* event) override {
-    if (event->type() == QEvent::WindowTitleChange)
-      captions.push_back(window_->windowTitle().toStdString());
-    if (event->type() == QEvent::CursorChange && window_->cursor().shape() == Qt::WaitCursor)
-      hourglass = true;
-    return false;
-  }
-  std::vector<std::string> captions;
-  bool hourglass = false;
-
- private:
-  QWidget* window_;
-};
-
 }  // namespace
 
 class EveryEffect : public EffectStage, public testing::WithParamInterface<Row> {};
@@ -155,6 +137,12 @@ TEST_F(Effects, PanelStandsAsTheTableSays) {
   }
   for (const CommandButton* hidden : {&studio.cmdGrijswaarden, &studio.cmdVerscherpen})
     EXPECT_FALSE(hidden->Visible || hidden->Enabled);
+}
+
+TEST_F(Effects, BarLiesOverTheMiddleOfTheSheet) {
+  expectPlaced({{studio.ProgressBar1, 5760, 3960, 3495, 375}});
+  EXPECT_FALSE(studio.ProgressBar1.Visible);
+  EXPECT_EQ(studio.ProgressBar1.Max, 50);
 }
 
 TEST_F(Effects, ByThePointerCloseTheirPanelAndChangeTheSheet) {
@@ -276,6 +264,7 @@ TEST_F(Effects, BrightnessTakesItsStepAndStartsTheProgressBeforeItAsksAndTheHour
   bool animated = false;
   int pointer = -1;
   std::string caption;
+  Heard heard(script::widgetOf(sheet)->window());
   host().inputBox = [&](const std::string&, const std::string&, const std::string&) {
     EXPECT_TRUE(same(*studio.UndoPic(0).Picture->bitmap(), before));
     EXPECT_FALSE(studio.cmdUndo.Enabled);
@@ -287,6 +276,7 @@ TEST_F(Effects, BrightnessTakesItsStepAndStartsTheProgressBeforeItAsksAndTheHour
   clickEffect(studio.cmdHelderheid);
   EXPECT_TRUE(animated);
   EXPECT_EQ(pointer, PointerDefault);
+  EXPECT_TRUE(heard.hourglass);
   EXPECT_EQ(caption, banner("HELDERHEID"));
 }
 

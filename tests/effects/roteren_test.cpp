@@ -48,6 +48,35 @@ TEST_F(Turning, OpensADialogWithNinetyDegreesAndTakesTheStepAtOnce) {
   EXPECT_TRUE(same(*studio.UndoPic(0).Picture->bitmap(), before));
 }
 
+TEST_F(Turning, DialogStandsAsTheTableSays) {
+  auto& dialog = open();
+  expectPlaced({{dialog.picPreview, 1680, 840, 7335, 7095}});
+  EXPECT_EQ(dialog.picPreview.ScaleMode(), ScalePixels);
+  EXPECT_EQ(dialog.picPreview.BackColor, White);
+  EXPECT_EQ(dialog.cmdPreview.Caption.get(), "Vooraf bekijken");
+  EXPECT_EQ(dialog.cmdInvoegen.Caption.get(), "INVOEGEN");
+  EXPECT_EQ(dialog.cmdSluiten.Caption.get(), "Annuleren");
+  EXPECT_EQ(dialog.lblAngle.Caption.get(), "De gewenste hoek is :");
+  EXPECT_EQ(dialog.lbl1.Caption.get(),
+            "Klik eerst een gewenste hoek aan in de keuzelijst. Daarna klik je op \"Vooraf "
+            "bekijken\" (eventueel verander je nog eens) en met \"INVOEGEN\" wordt je tekening "
+            "aangepast.");
+  for (int i = 0; i < 24; ++i) EXPECT_EQ(dialog.cboHoek.List(i), std::to_string(15 * (i + 1)));
+}
+
+TEST_F(Turning, ShowsTheHourglassInItsDialogWhileItTurns) {
+  drawNoise(61, 47);
+  auto& dialog = open();
+  Heard heard(script::widgetOf(dialog.picPreview)->window());
+  click(dialog.cmdPreview);
+  EXPECT_TRUE(heard.hourglass);
+  heard.hourglass = false;
+  click(dialog.cmdInvoegen);
+  EXPECT_TRUE(heard.hourglass);
+  EXPECT_EQ(studio.MousePointer, PointerDefault);
+  EXPECT_FALSE(animates());
+}
+
 TEST_F(Turning, PreviewsIntoTheDialogAndKeepsTheCornersOfTheOneBefore) {
   const Bitmap before = drawNoise(300, 200);
   auto& dialog = open();

@@ -42,6 +42,26 @@ TEST_F(ReplacingColours, OpensItsDialogInTheUpperRightCornerAboveAllWindows) {
   }
 }
 
+TEST_F(ReplacingColours, DialogStandsAsTheTableSays) {
+  auto& dialog = open();
+  const Color colors[] = {0x0000FF, 0x00FF00, 0xFF0000};
+  const char* const names[] = {"Rood", "Groen", "Blauw"};
+  for (int i = 0; i < 3; ++i) {
+    expectPlaced({{dialog.Picture1(i), 120, 960.0f + 480.0f * static_cast<float>(i), 4455, 375}});
+    EXPECT_EQ(dialog.Line1[i].BorderColor, colors[i]);
+    EXPECT_EQ(dialog.Line1[i].Y1, dialog.Line1[i].Y2) << "the track lies";
+    EXPECT_EQ(dialog.Line2[i].BorderColor, colors[i]);
+    EXPECT_EQ(dialog.Label3(i).Caption.get(), names[i]);
+  }
+  EXPECT_EQ(dialog.Label1.Caption.get(), "-100");
+  EXPECT_EQ(dialog.Label2.Caption.get(), "+100");
+  EXPECT_EQ(dialog.Label5.Caption.get(),
+            "Je kan de waarden van de drie basiskleuren verschuiven tussen -100 en +100");
+  EXPECT_EQ(dialog.cmdUitvoeren.Caption.get(), "Uitvoeren");
+  EXPECT_EQ(dialog.cmdSluiten.Caption.get(), "Annuleren");
+  EXPECT_EQ(studio.cmdVervangKleur.ToolTipText.get(), "KLEUREN VERVANGEN");
+}
+
 TEST_F(ReplacingColours, MovesASliderByPressDragAndRelease) {
   auto& dialog = open();
   press(dialog.Picture1(1), 0, 12);
@@ -103,8 +123,14 @@ TEST_F(ReplacingColours, ScalesEachColourByItsOwnSlider) {
   const auto factor = [](int column) {
     return double{static_cast<float>(column * 201.0 / 297)} / 100;
   };
+  Heard studioHeard(script::widgetOf(sheet)->window());
+  Heard dialogHeard(script::widgetOf(dialog.cmdUitvoeren)->window());
   click(dialog.cmdUitvoeren);
   EXPECT_TRUE(shows(sheet, effects::scaled(before, {factor(33), factor(151), factor(280)})));
+  EXPECT_EQ(studioHeard.captions,
+            (std::vector<std::string>{banner("KLEUREN VERVANGEN"), "KRAS PRET"}));
+  EXPECT_FALSE(studioHeard.hourglass) << "the dialog has it";
+  EXPECT_TRUE(dialogHeard.hourglass);
   EXPECT_FALSE(isLoaded<frmVervangKleur>());
   EXPECT_EQ(studio.Caption.get(), "KRAS PRET");
   EXPECT_EQ(studio.lblModus.Caption.get(), status("KLEUREN VERVANGEN"));

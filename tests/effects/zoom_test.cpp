@@ -39,6 +39,9 @@ TEST_F(Magnifier, OpensInTheUpperLeftCornerWithItsSliderAtTheTop) {
   EXPECT_EQ(zoom.Caption.get(), "                      IN / UIT ZOOMEN");
   EXPECT_FALSE(zoom.topMost());
   EXPECT_TRUE(zoom.Slider1.Vertical);
+  expectPlaced({{zoom.Slider1, 120, 120, 495, 3015}});
+  EXPECT_EQ(zoom.Slider1.Min, 1);
+  EXPECT_EQ(zoom.Slider1.Max, 10);
   EXPECT_EQ(zoom.Slider1.Value, 1);
   EXPECT_EQ(zoom.Slider1.SmallChange, 1);
   EXPECT_EQ(zoom.Slider1.LargeChange, 1);
