@@ -33,9 +33,9 @@ with p.at(300, 14, .9):
     p.shape("-48 222!, 48 222!, 42 242!, -42 242!")
 
 p.note("children and the cat in the basket")
-with p.at(244, 326, .76, -12, flip=True):
+with p.at(244, 317, .76, -12, flip=True):
     side_head(p, "bun", mouth="open", brows=4, r=6.6)
-with p.at(356, 327, .76, 8):
+with p.at(356, 318, .76, 8):
     head(p, "34", "curly", mouth="open", brows=None, r=6.6, ear=False, look=(1, 1))
 palm(p, 424, 342, -52, 1, "open", 1)
 p.shape(limb("386 374, 414 366, 426 340", 28, 27, 25, flat=True))
