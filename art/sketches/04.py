@@ -10,8 +10,8 @@ p.lines("317 -10, 317 226", "186 106, 448 106", width=4)
 p.shape("150 -10!, 162 120, 132 262!, 222 262!, 226 150, 214 -10!")
 p.shape("420 -10!, 408 150, 412 262!, 502 262!, 472 120, 484 -10!")
 p.lines("182 40, 180 160", "452 40, 454 160")
-p.shape(oval(312, 464, 286, 60))
-p.shape(oval(312, 462, 250, 42))
+for rx, ry in ((286, 58), (250, 42)):
+    p.shape([(312 + rx * math.cos(k * math.pi / 16), 462 + ry * math.sin(k * math.pi / 16)) for k in range(32)])
 
 p.note("basket with balls of wool")
 p.shape(oval(546, 306, 38))
