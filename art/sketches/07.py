@@ -27,8 +27,9 @@ with p.at(474, 128, .8):
 
 p.note("bed of earth, carrot tops")
 p.shape("-10 360, 200 330, 420 344, 640 320!, 640 560!, -10 560!")
-for x, y in ((330, 518), (40, 516)):
+for x, y in ((312, 510), (46, 518)):
     p.shape(f"{x} {y}!, {x - 26} {y - 30}, {x - 20} {y - 50}, {x - 4} {y - 34}!, {x} {y - 62}, {x + 10} {y - 34}!, {x + 26} {y - 46}, {x + 26} {y - 26}")
+    p.shape(f"{x - 38} {y + 10}!, {x - 22} {y - 14}, {x} {y - 22}, {x + 22} {y - 14}, {x + 38} {y + 10}!, {x} {y + 14}")
 
 p.note("big rabbit leans back and pulls: far leg, far arm")
 p.one(limb("110 420, 200 372, 262 424", 80, 60, 40), oval(286, 408, 19, 44, 14))
