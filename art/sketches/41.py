@@ -1,6 +1,6 @@
+from faces import head
 from hand import *
 from limbs import palm
-from people import *
 
 p = Page("41", "At the vet: the dog gives its paw to be bandaged; the kitten has rolled itself into the other end")
 
