@@ -1,6 +1,7 @@
+from faces import head
 from hand import *
 from limbs import palm
-from people import *
+from people import shoe
 
 p = Page("42", "Football: the keeper flies, the ball passes just beyond the fingers; the dog is the other goal post")
 
@@ -53,15 +54,14 @@ with p.at(20, 22, .9):
         p.line("596 260, 586 330", 4)
     with p.at(632, 302, 1, -84):
         shoe(p, 0, 0, 0, 1.15)
-    shirt = "354 176!, 386 168, 430 182, 484 212!, 458 288!, 404 272, 352 246, 344 206"
+    shirt = "336 172!, 350 176, 386 168, 430 182, 484 212!, 458 288!, 404 272, 352 246, 314 204"
     p.shape(shirt)
     with p.within(shirt):
         p.lines("420 160, 398 290", "458 180, 430 300", width=4)
     p.shape("484 210!, 520 218, 556 222!, 560 272!, 552 310!, 500 302, 456 290!, 468 252")
     p.line("560 270, 534 266", 4)
-    p.shape("376 200, 346 186, 330 172, 318 196, 340 218, 362 226")
-    with p.at(304, 152, .96, -2, flip=True):
-        head(p, "side", "tuft", mouth="flat", brows=8)
+    with p.at(300, 148, .96, -6, flip=True):
+        head(p, "side", "tuft", mouth="open", brows=None)
     palm(p, 226, 190, 194, .98, "glove", -1)
     p.one(limb("384 226, 310 230, 224 190", 54, 50, 40, flat=True), join=(390, 226, 30))
 
