@@ -1,6 +1,7 @@
+from faces import head
 from hand import *
 from limbs import palm
-from people import *
+from people import shoe
 
 p = Page("43", "A children's band on the stage: guitar, drums and trumpet; the cat keeps its paws over its ears")
 
@@ -41,7 +42,7 @@ with p.at(532, 0, flip=True):
         p.line("28 16, 22 24, 28 32")
     p.shape("24 142!, 90 122, 112 104, 132 62!, 162 132!, 120 130, 92 140, 28 158!")
     p.shape(oval(147, 97, 14, 38, -23))
-    p.lines("58 112, 58 138", "78 104, 78 132", width=4)
+    p.lines("54 114, 54 134", "74 104, 74 128", width=5)
     palm(p, 70, 176, -76, 1, "fist", -1)
     p.one(limb("-28 270, 12 310, 44 276, 68 180", 54, 48, 42, 34, flat=True), join=(-28, 262, 22))
 
