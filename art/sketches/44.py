@@ -1,6 +1,6 @@
+from faces import head
 from hand import *
 from limbs import palm
-from people import *
 
 p = Page("44", "A birthday: he blows, the candles bend, and the dog has already got at the cake")
 
