@@ -1,6 +1,7 @@
+from faces import head
 from hand import *
 from limbs import palm
-from people import *
+from people import shoe
 
 p = Page("45", "Pancakes: father tosses one, looks up in vain - it has come down on the cat")
 
