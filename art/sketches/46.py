@@ -1,6 +1,6 @@
+from faces import head
 from hand import *
 from limbs import palm
-from people import *
 from beasts import chick, hoof
 
 p = Page("46", "Feeding the animals: the hens run for the grain, the goat eats the girl's bow, the donkey would like some too")
@@ -20,7 +20,7 @@ with p.at(436, 130):
     p.line("-84 82, -72 80, -60 70")
     p.eye(-36, -14, 6.5)
     p.line("-48 -34, -38 -38, -28 -32")
-    p.shape("6 -58!, 30 -52, 60 -30, 108 6!, 92 20, 52 -2, 26 -30")
+    p.shape(scallops("8 -62, 60 -42, 104 -6, 140 10", 5, .3, False) + [(128, 26, False), (96, 12, False), (54, -16, False), (28, -38, False)])
 for y in (202,):
     p.shape(box(330, y, 320, 26))
 for x in (414,):
