@@ -1,6 +1,6 @@
+from faces import head
 from hand import *
 from limbs import palm
-from people import *
 
 p = Page("47", "A strong castle: the knight rides to the drawbridge, the king waves from the tower, a goose runs ahead")
 
@@ -26,7 +26,7 @@ with p.within(window):
         p.shape("-72 110!, -58 70, -20 46, 24 46, 70 60, 86 110!")
         head(p, "34", "short", mouth="", brows=None, ear=False, r=5.6)
         p.shape("-16 12!, 2 22, 16 16!, 28 22, 42 10!, 42 40, 30 66, 10 68, -10 46")
-        p.shape("-50 -22!, -54 -76!, -22 -52!, 0 -86!, 20 -52!, 50 -72!, 48 -14!, 0 -26")
+        p.shape("-52 -18!, -60 -86!, -26 -66!, 0 -98!, 24 -66!, 56 -82!, 50 -10!, 0 -22")
 palm(p, 435, 204, -116, .9, "wave", -1)
 p.shape(limb("536 254, 476 254, 436 206", 34, 32, 28, flat=True))
 p.shape("470 260!, 604 260!, 604 280!, 470 280!")
@@ -60,11 +60,11 @@ with p.at(164, 372, 1.0):
         p.shape("-14 -50!, -60 -84, -100 -60, -110 -20!, -76 -34, -40 -34!")
         head(p, "side", "short", mouth="smile", ear=False)
         p.shape("44 -34!, 24 -30, 12 -14!, 12 36!, -30 52!, -54 30, -56 -20, -34 -58, 10 -62, 38 -46")
-    p.line("150 -58, 120 -30, 60 -54", 4)
+    p.line("150 -58, 108 -40, 60 -50", 4)
     palm(p, 46, -49, -8, .9, "fist")
     p.one(limb("-16 -80, -14 -44, 16 -40, 48 -50", 42, 38, 34, 30, flat=True), join=(-16, -84, 22))
 p.note("goose in front runs along")
-with p.at(428, 496, .9):
+with p.at(434, 506, .9):
     p.lines("-16 22, -24 40", "6 24, 10 40", width=4)
     p.shape("-64 -16!, -30 -20, 10 -16, 26 -50, 30 -74, 48 -84, 62 -68, 52 -48, 44 -6, 20 24, -24 26, -52 10")
     p.shape("60 -76!, 86 -66, 58 -58!")
