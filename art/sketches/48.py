@@ -1,6 +1,6 @@
+from faces import head
 from hand import *
 from limbs import palm
-from people import *
 
 p = Page("48", "Colouring together round the table's corner: one draws with the tongue out, one leans over, one shows the portrait of the cat")
 
