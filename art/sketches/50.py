@@ -1,6 +1,6 @@
+from faces import head
 from hand import *
 from limbs import palm
-from people import *
 
 p = Page("50", "Carnival: the bear cub walks into the clown's lifted shoe; behind, the princess throws streamers")
 
