@@ -1,6 +1,7 @@
+from faces import head
 from hand import *
 from limbs import palm
-from people import *
+from people import shoe
 
 p = Page("54", "Ducks in the park: the girl offers bread, the ducklings follow in a line, one sits on the sleeping grandfather's hat")
 
@@ -28,8 +29,8 @@ with p.at(140, 138):
     palm(p, -22, 146, 2, 1.02, "flat")
     with p.at(8, 0, 1.02, 12):
         head(p, "34", "bald", eyes="closed", mouth="", brows=None, nose=False)
-        p.shape("-4 26, 10 20, 26 24, 42 20, 54 28, 40 40, 26 34, 10 40")
-        p.shape(oval(28, 14, 13, 11))
+        p.shape("27 16!, 10 12, -4 22, -20 16, -14 34, 10 38, 27 28!, 38 36, 52 32, 60 16, 48 21, 41 13")
+        p.shape(oval(31, 8, 11, 9.5))
         p.shape("-54 -16!, -50 -34, 40 -34, 60 -14!, 10 -24")
         p.shape("-46 -32!, -40 -62, 0 -70, 34 -60, 40 -32!")
     with p.at(6, -92, .82):
