@@ -1,6 +1,7 @@
+from faces import head
 from hand import *
 from limbs import palm
-from people import *
+from people import shoe
 
 p = Page("55", "Picnic seen from above: father pours, the girl bites the melon, a squirrel pulls the cake away, ants carry a cherry")
 
@@ -11,7 +12,7 @@ p.shape("404 -10!, 408 40, 398 84, 380 104!, 470 104!, 452 80, 448 40, 452 -10!"
 p.note("the cloth")
 p.shape(oval(330, 330, 316, 158))
 with p.within(oval(330, 330, 314, 156)):
-    p.lines("396 100, 404 300, 404 540", "-20 250, 330 258, 680 250", "-20 386, 330 396, 680 386", width=4)
+    p.lines("-20 250, 330 258, 680 250", "-20 386, 330 396, 680 386", width=4)
 
 p.note("cake on its plate, tugged off the cloth by the squirrel")
 with p.at(298, 148, 1, -8):
@@ -38,9 +39,9 @@ with p.at(514, 0, flip=True):
     p.shape("-44 268, -16 238!, -2 250, 14 236!, 34 258, 40 330, 24 386, -48 396, -72 346, -54 290")
     with p.at(8, 170, .96):
         head(p, "side", "tails", eyes="happy", mouth="open", brows=None)
-    p.shape("54 142!, 58 234!, 96 230, 120 206, 120 168, 96 144")
-    p.line("54 216, 84 212, 103 196, 102 174, 86 158, 57 158")
-    for x, y in ((70, 178), (84, 186), (70, 198)):
+    p.shape("62 142!, 64 234!, 102 230, 126 206, 126 168, 102 144")
+    p.line("62 216, 90 212, 109 196, 108 174, 92 158, 63 158")
+    for x, y in ((77, 178), (91, 186), (77, 198)):
         p.spot(x, y, 2.6, 4)
     p.one(limb("-28 358, 30 350, 66 318", 70, 60, 48), limb("66 316, 68 356, 66 408", 46, 38, 32, flat=True), join=[(-34, 358, 34), (-8, 356, 30)])
     shoe(p, 66, 412, 0, 1.0)
@@ -50,10 +51,11 @@ with p.at(514, 0, flip=True):
 p.note("cup, jug")
 p.shape("328 354!, 334 406, 374 406, 382 354!")
 p.shape(oval(355, 354, 27, 9))
-p.tube("340 268, 354 290, 358 354", 15)
+p.tube("362 266, 372 296, 360 354", 15)
 with p.at(297, 300, 1.06, 25):
     p.tube("-24 -26, -64 -28, -66 22, -32 24", 17)
-    p.shape("-28 -46!, -22 -20, -40 14, -26 48, 26 48, 40 14, 22 -18, 38 -54!, 10 -42")
+    p.shape("-28 -44!, -22 -20, -40 14, -26 48, 26 48, 40 14, 22 -20, 28 -42!")
+    p.shape("-32 -46, -14 -54, 14 -55, 54 -60!, 34 -40, 6 -36, -20 -38")
     p.shape(heart(0, 14, 16))
 
 p.note("father from behind, kneeling near us, pours")
