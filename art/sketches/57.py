@@ -1,6 +1,6 @@
+from faces import head
 from hand import *
 from limbs import palm
-from people import *
 
 p = Page("57", "Two in a canoe: grandfather paddles with all his strength; the girl shrugs, as the beaver swims off with her paddle")
 
