@@ -1,6 +1,7 @@
+from faces import head
 from hand import *
 from limbs import bare_arm, palm
-from people import *
+from people import shoe
 
 p = Page("58", "Playing with blocks: the girl on tiptoe sets the last one, the boy holds his breath, the dog's tail will do the rest")
 
