@@ -58,7 +58,7 @@ p.shape("292 134, 262 176, 262 208!, 306 216, 352 208, 384 190!, 374 162, 348 13
 
 p.note("head with beard and mitre, he looks down at the child")
 with p.at(334, 112, .88, 12):
-    head(p, "34", "", mouth=None, brows=3, ear=False, nose=False)
+    head(p, "34", "", mouth=None, brows=None, ear=False, nose=False)
     p.shape("-50 -22!, -60 14, -66 58, -42 72, -24 52, -22 14, -14 -20!")
     p.shape("-24 6!, -34 46, -14 86, 16 110, 40 78, 50 36, 47 8!, 32 20, 8 20, -12 16")
     p.shape("24 10!, 6 10, -10 26, 8 34, 24 24!, 38 33, 54 22, 40 8")
@@ -74,7 +74,7 @@ palm(p, 532, 440, -106, 1, "fist", -1)
 p.shape(limb("590 500, 548 500, 534 438", 40, 34, 27, flat=True))
 p.shape("560 540!, 564 492, 586 474, 620 480, 640 540!")
 with p.at(582, 420, .86, 8, flip=True):
-    head(p, "34", "tuft", mouth="open", brows=5, r=5.6)
+    head(p, "34", "tuft", mouth="open", brows=None, r=5.6)
 p.shape("476 506!, 640 498!, 640 560!, 468 560!")
 
 p.note("cat on the chimney")
