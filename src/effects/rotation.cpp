@@ -46,7 +46,7 @@ constexpr int QuickLimit = 1447;
 
 // The target is painted in blocks: narrow ones, so that the source points of neighbouring rows lie
 // close together whatever the angle, and low ones, so that what was found is still near.
-constexpr int BlockWidth = 160, BlockRows = 4;
+constexpr int BlockWidth = 256, BlockRows = 4;
 // Places are found in whole groups, also where a row ends within one.
 constexpr int Group = 16;
 static_assert(BlockWidth % Group == 0);
