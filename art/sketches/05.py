@@ -1,7 +1,7 @@
 from hand import *
 from people import *
 from limbs import *
-from sideface import *
+from faces import head
 
 p = Page("05", "The dog's bath: a girl on tiptoe scrubs with both hands, the dog shakes off six big drops")
 
@@ -55,7 +55,7 @@ with p.at(176, 0):
     p.one("-14 226!, 40 216!, 62 260, 72 330, 70 384!, 20 396, -62 380!, -44 320, -34 262")
     p.line("-46 322, 20 338, 70 322")
     with p.at(20, 156, 1, 4):
-        side_head(p, "tails", mouth="smile", brows=2)
+        head(p, "side", "tails", mouth="smile", brows=2)
     with p.at(150, 240, 1, -16):
         p.shape(scallops("-20 -2, -22 -20, 32 -22, 34 -2", 6, .42))
         p.shape("-44 -4!, 40 -4!, 40 18!, -44 18!")

@@ -1,6 +1,6 @@
 from hand import *
 from people import *
-from sideface import *
+from faces import head
 from limbs import *
 from beasts import *
 
@@ -16,7 +16,7 @@ with p.at(558, 262, .86, flip=True):
     p.shape(limb("-6 36, -8 66", 28, 28, flat=True))
     p.one("-46 78, -20 58, 14 58, 36 78, 30 120!, -50 120!")
     with p.at(0, 0, .92, -14):
-        side_head(p, "curly", mouth="open", brows=3)
+        head(p, "side", "curly", mouth="open", brows=3)
 p.shape(box(510, 348, 130, 90))
 p.shape(box(500, 330, 140, 26))
 for x in (526, 594):
@@ -50,7 +50,7 @@ p.one(limb("220 208, 292 240, 262 296", 60, 48, 36, flat=True), join=(212, 204, 
 p.shape("240 290!, 282 294!, 272 318!, 300 326, 304 340!, 234 336!")
 with p.at(286, 66, .84, 6):
     p.shape("-40 -6, -74 -12, -96 14, -122 6!, -104 42, -64 36, -40 20")
-    side_head(p, None, mouth="open", brows=3, ear=False)
+    head(p, "side", None, mouth="open", brows=3, ear=False)
     p.put(f'<path stroke="none" d="{p.path("-8 -4, -26 -4, -30 8, -24 18, -8 16")}"/>')
     p.line("-14 -3, -26 -4, -31 8, -24 19, -13 15", 4)
     p.shape("-52 6, -56 -34, -26 -66, 14 -66, 44 -44, 50 -22!, 72 -14, 66 -6!, 20 -16, -20 -10, -38 10")

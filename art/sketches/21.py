@@ -1,7 +1,7 @@
 from hand import *
 from limbs import palm, sleeve
 from people import *
-from sideface import *
+from faces import head
 
 p = Page("21", "The fire brigade rescues a cat: it pats the fireman's helmet from its branch; the old lady waits below with a bowl of milk")
 
@@ -88,7 +88,7 @@ shoe(p, 498, 514, 0, 1.1, True)
 p.one(limb("512 330, 516 356", 38, 38), "484 362, 514 344, 546 360, 560 410, 572 500!, 520 510, 462 500!, 476 420, 474 386")
 with p.at(506, 316, .86, 12, flip=True):
     p.shape(oval(-40, -48, 23))
-    side_head(p, "parting", eyes="white", look=(.9, -.7), mouth="open", brows=None, r=4.4)
+    head(p, "side", "parting", eyes="white", look=(.9, -.7), mouth="open", brows=None, r=4.4)
 p.shape("478 352!, 512 362, 550 352!, 560 372, 514 384, 474 370")
 p.shape("388 424!, 462 424!, 450 448, 426 456, 400 448")
 p.shape(oval(425, 424, 37, 9), 3)

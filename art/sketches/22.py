@@ -1,7 +1,7 @@
 from hand import *
 from limbs import palm, sleeve
 from people import *
-from sideface import *
+from faces import head
 
 p = Page("22", "The farmer drives his tractor with a cart of pumpkins and looks back: a goat rides along, has taken his hat and will not let go")
 
@@ -54,8 +54,8 @@ p.shape(limb("320 196, 300 214, 262 180", 42, 34, 28, flat=True))
 p.shape(limb("334 140, 330 180", 42, 42))
 p.one("292 206, 314 178, 344 176, 372 204, 378 296, 284 296, 280 246", limb("300 268, 360 266, 404 300", 62, 50, 44))
 p.shape("304 178!, 328 188, 354 176!, 362 194, 330 210, 298 196")
-with p.at(333, 117, .96, 2, flip=True):
-    side_head(p, "bald", mouth="open", brows=7)
+with p.at(333, 111, .96, 2, flip=True):
+    head(p, "side", "bald", mouth="open", brows=7)
 p.shape(oval(409, 206, 17, 42, 26))
 p.shape(oval(409, 206, 8, 31, 26))
 palm(p, 386, 236, -34, .96, "fist", 1)

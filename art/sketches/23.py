@@ -1,7 +1,7 @@
 from hand import *
 from limbs import palm, sleeve
 from people import *
-from sideface import *
+from faces import head
 
 p = Page("23", "A digger lifts its bucket: a mole with a helmet sits in the earth; the driver and the worker cannot believe it")
 
@@ -43,7 +43,7 @@ p.shape(pane)
 with p.within(pane):
     with p.at(192, 278, .72, -10):
         p.one("-70 120!, -64 74, -28 54, 30 60, 60 120!")
-        side_head(p, "short", mouth="open", brows=None, r=6.4)
+        head(p, "side", "short", mouth="open", brows=None, r=6.4)
         p.shape("-56 -10!, -48 -56, 0 -72, 38 -56, 46 -24!, 74 -14, 40 -10, 0 -20")
 p.put(f'<path fill="none" d="{p.path(pane)}"/>')
 p.shape("206 408!, 214 350, 300 230, 352 120, 392 66, 440 52!, 462 78!, 420 120, 380 220, 300 350, 284 410!")
@@ -62,7 +62,7 @@ palm(p, 480, 468, -52, 1.08, "point", 1)
 p.shape(limb("384 440, 382 470", 42, 42))
 p.shape("332 560!, 334 500, 352 464, 388 456, 420 468, 432 500, 436 560!")
 with p.at(386, 416, .96, -16):
-    side_head(p, "short", mouth="open", brows=None, r=5.8)
+    head(p, "side", "short", mouth="open", brows=None, r=5.8)
     p.shape("-58 -12!, -50 -54, -8 -80, 34 -64, 44 -32!, 76 -24, 40 -16, 0 -24, -30 -12")
     p.line("-10 -80, -12 -40", 4)
 sleeve(p, "378 490, 424 536, 482 466", 50, 44, 30)

@@ -1,7 +1,7 @@
 from hand import *
 from limbs import palm, sleeve
 from people import *
-from sideface import *
+from faces import head
 
 p = Page("25", "Two children sail past the lighthouse: the girl plays ball with a seal, the keeper waves from his gallery")
 
@@ -51,7 +51,7 @@ p.shape(limb("318 312, 360 314, 396 292", 30, 28, 23, flat=True))
 p.shape(limb("306 280, 304 306", 30, 30))
 p.shape("268 400!, 264 348, 278 308, 306 296, 332 308, 344 350, 346 400!")
 with p.at(318, 256, .84, 4):
-    side_head(p, "pony", mouth="open", brows=5)
+    head(p, "side", "pony", mouth="open", brows=5)
 palm(p, 382, 338, -30, .98, "open", 1)
 sleeve(p, "296 328, 332 360, 384 338", 42, 36, 26)
 

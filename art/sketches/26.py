@@ -1,7 +1,7 @@
 from hand import *
 from limbs import palm
 from people import *
-from sideface import *
+from faces import head
 
 p = Page("26", "A balloon over the fields: one child waves to the cow that looks up, one watches a stork, the cat peeps over the rim")
 
@@ -34,7 +34,7 @@ with p.at(300, 14, .9):
 
 p.note("children and the cat in the basket")
 with p.at(244, 317, .76, -12, flip=True):
-    side_head(p, "bun", mouth="open", brows=4, r=6.6)
+    head(p, "side", "bun", mouth="open", brows=4, r=6.6)
 with p.at(356, 318, .76, 8):
     head(p, "34", "curly", mouth="open", brows=None, r=6.6, ear=False, look=(1, 1))
 palm(p, 424, 342, -52, 1, "open", 1)

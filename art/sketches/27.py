@@ -1,6 +1,7 @@
 from hand import *
 from limbs import palm, sleeve
 from people import *
+from faces import head
 
 p = Page("27", "The school bus waits with its door open: the driver beckons, a boy runs to the step, the dog brings the forgotten lunch box")
 

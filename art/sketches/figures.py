@@ -2,7 +2,7 @@
 from hand import *
 from limbs import HANDS, palm, sleeve
 from people import *
-from sideface import side_head
+from faces import head
 
 p = Page("figures", "Row 1: a head in three quarters, in profile, from behind, in profile with its tongue out. Row 2: a sleeve fused with "
          "the body, a sleeve in front of the body, a hand that holds. Row 3: the hands. Row 4: an animal from ovals, fused")
@@ -10,11 +10,11 @@ p = Page("figures", "Row 1: a head in three quarters, in profile, from behind, i
 with p.at(80, 70, .9):
     head(p, "34", "short", mouth="open", brows=2)
 with p.at(236, 70, .9):
-    side_head(p, "pony", mouth="smile")
+    head(p, "side", "pony", mouth="smile")
 with p.at(380, 70, .9):
     head(p, "back", "tails")
 with p.at(520, 70, .9):
-    side_head(p, "curly", eyes="closed", mouth="tongue")
+    head(p, "side", "curly", eyes="closed", mouth="tongue")
 
 with p.at(100, 190, .8):
     palm(p, 116, -22, -62, 1, "wave")
