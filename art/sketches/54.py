@@ -11,7 +11,7 @@ p.shape(scallops("420 -30, 400 60, 460 110, 560 90, 650 120, 660 -30", 9, .3))
 p.shape("-10 236, 200 216, 420 232, 640 214!, 640 560!, -10 560!")
 
 p.note("bench with grandfather asleep")
-p.shape(box(26, 152, 250, 54))
+p.shape(box(26, 150, 250, 46))
 p.shape(box(36, 280, 18, 60))
 p.shape(box(250, 280, 18, 60))
 p.shape(box(16, 262, 270, 20))
