@@ -5,7 +5,7 @@ from people import *
 p = Page("56", "The pirates' ship: the captain peers through his telescope, the parrot peers back from its other end; the monkey steers")
 
 p.note("sea far away")
-p.line("-10 330, 640 330", 4)
+p.line("-10 344, 640 344", 4)
 
 p.note("mast and sails full of wind")
 with p.at(330, 330, 1, -6):
