@@ -1,6 +1,6 @@
-from faces import head
 from hand import *
 from limbs import bare_arm
+from sideface import side_head
 
 p = Page("35", "A mermaid combs her hair on a rock and looks into the mirror that a crab holds up for her; a dolphin leaps")
 
@@ -43,7 +43,7 @@ for x, y in ((166, 402), (222, 404), (194, 442), (256, 444), (312, 430), (346, 4
 
 p.note("head in profile, long hair, the comb goes through it")
 with p.at(192, 118, .98, 6):
-    head(p, "side", "", eyes="dot", mouth="smile", brows=None, r=5.8)
+    side_head(p, None, eyes="dot", mouth="smile", brows=None, r=5.8, ear=False)
     p.shape("40 -34!, 22 -22, 2 -4, -8 16, -6 44, -18 84, -26 130, -46 180, -96 220!, -92 200, -120 184!, -118 120, -96 40, -76 -30, -40 -62, 4 -66, 34 -52")
     p.line("-58 -14, -70 30")
     p.shape(star(-12, -36, 21))

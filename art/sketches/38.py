@@ -1,7 +1,7 @@
-from faces import head
 from hand import *
 from limbs import palm, sleeve
-from people import shoe
+from people import head, shoe
+from sideface import side_head
 
 p = Page("38", "Children trim the Christmas tree: a girl on the steps sets the star, a boy hands up a bauble, the cat has wound itself in the garland")
 
@@ -42,7 +42,7 @@ with p.at(528, 0, flip=True):
     p.shape(limb("4 110, 2 138", 30, 30))
     p.one("-26 150, 0 130, 26 144, 36 184, 50 220!, 2 232, -46 220!, -34 186")
     with p.at(12, 80, .86, -14):
-        head(p, "side", "pony", mouth="open", brows=None)
+        side_head(p, "pony", mouth="open", brows=None)
     palm(p, 86, 134, -30, .94, "open", 1)
     sleeve(p, "-4 156, 34 188, 88 132", 42, 38, 26)
 

@@ -1,6 +1,6 @@
-from faces import head
 from hand import *
 from limbs import palm, sleeve
+from sideface import side_head
 
 p = Page("39", "Skating: the girl leans forward at full speed, the boy has fallen, his cap is still in the air")
 
@@ -36,9 +36,9 @@ with p.at(278, 292):
         p.shape("-18 -14!, -20 16!, 44 16!, 42 -2, 16 -14!")
         p.shape("-24 16!, 58 16!, 58 28!, -24 28!")
     p.shape("36 -62, 0 -98, -48 -104, -92 -78!, -96 -100!, -50 -124, 10 -116, 56 -84")
-    p.shape("40 -86!, 62 -66, 112 -58!, 110 -38, 70 -32, 34 -60!")
+    p.shape("40 -92!, 64 -80, 112 -66!, 110 -38, 70 -32, 34 -60!")
     with p.at(92, -106, 1, 4):
-        head(p, "side", "pony", mouth="open", brows=3)
+        side_head(p, "pony", mouth="open", brows=3)
         p.shape("46 -18!, 30 -60, -14 -66, -50 -40, -54 -4!, -20 -20, 10 -26")
         p.shape("46 -18!, 48 -32, 10 -40, -30 -28, -58 -2!, -52 10, -20 -8, 12 -18")
         p.shape(scallops(oval(-22, -68, 15), 7, .4))
@@ -58,7 +58,8 @@ with p.at(540, 392, flip=True):
         p.shape("-24 14!, 50 14!, 50 26!, -24 26!")
     p.line("-44 62, -10 72, 30 66", 4)
     with p.at(-8, -72, .88, -24):
-        head(p, "side", "curly", mouth="open", brows=5)
+        side_head(p, "curly", mouth="open", brows=5, ear=False)
+        p.shape("-14 -2, -26 -4, -30 8, -24 18, -13 15")
     palm(p, 76, -34, -64, 1.1, "open", 1)
     sleeve(p, "-6 14, 46 22, 76 -36", 44, 38, 29)
 with p.at(560, 196, 1, 20):

@@ -1,7 +1,7 @@
-from faces import head
 from hand import *
 from limbs import palm
 from people import shoe
+from sideface import side_head
 
 p = Page("42", "Football: the keeper flies, the ball passes just beyond the fingers; the dog is the other goal post")
 
@@ -36,7 +36,8 @@ with p.at(104, 290, .8):
     p.shape(shirt)
     p.shape("-46 110!, -10 120, 28 112!, 58 112, 70 126!, 62 168!, 30 170, 8 160!, 6 176!, -48 172!, -50 140")
     with p.at(6, -42, .98, -24):
-        head(p, "side", "curly", mouth="open", brows=8)
+        side_head(p, "curly", mouth="open", brows=8, ear=False)
+        p.shape("-14 -2, -26 -4, -30 8, -24 18, -13 15")
     palm(p, 72, 46, -48, .9, "wave")
     p.one(limb("-14 42, 14 76, 74 46", 40, 38, 32, flat=True), join=(-16, 40, 21))
 
@@ -61,7 +62,7 @@ with p.at(20, 22, .9):
     p.shape("484 210!, 520 218, 556 222!, 560 272!, 552 310!, 500 302, 456 290!, 468 252")
     p.line("560 270, 534 266", 4)
     with p.at(300, 148, .96, -6, flip=True):
-        head(p, "side", "tuft", mouth="open", brows=None)
+        side_head(p, "tuft", mouth="open", brows=None)
     palm(p, 226, 190, 194, .98, "glove", -1)
     p.one(limb("384 226, 310 230, 224 190", 54, 50, 40, flat=True), join=(390, 226, 30))
 

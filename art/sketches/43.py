@@ -1,7 +1,7 @@
-from faces import head
 from hand import *
 from limbs import palm
-from people import shoe
+from people import head, shoe
+from sideface import side_head
 
 p = Page("43", "A children's band on the stage: guitar, drums and trumpet; the cat keeps its paws over its ears")
 
@@ -38,7 +38,7 @@ with p.at(532, 0, flip=True):
     p.shape(limb("-26 190, -22 264", 34, 38, flat=True))
     p.shape("-64 268, -60 242, -46 226!, -24 242, -2 226!, 28 250, 36 310, 42 380!, -54 384!, -60 320")
     with p.at(-28, 156, .94, -14):
-        head(p, "side", "short", eyes="closed", mouth="", brows=8)
+        side_head(p, "short", eyes="closed", mouth="", brows=8)
         p.line("28 16, 22 24, 28 32")
     p.shape("24 142!, 90 122, 112 104, 132 62!, 162 132!, 120 130, 92 140, 28 158!")
     p.shape(oval(147, 97, 14, 38, -23))

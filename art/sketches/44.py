@@ -1,6 +1,7 @@
-from faces import head
 from hand import *
 from limbs import palm
+from people import head
+from sideface import side_head
 
 p = Page("44", "A birthday: he blows, the candles bend, and the dog has already got at the cake")
 
@@ -46,7 +47,7 @@ p.shape("-10 384, 26 340, 60 322!, 96 338, 138 322!, 158 372, 156 440, 140 560!,
 p.shape("54 312!, 96 328, 142 310!, 148 332, 98 350, 46 336")
 with p.at(126, 240):
     with p.at(0, 0, 1.3, 14):
-        head(p, "side", "short", eyes="closed", mouth="", brows=None, r=5)
+        side_head(p, "short", eyes="closed", mouth="", brows=None, r=5)
         p.shape("42 20, 52 18, 60 22, 58 28, 46 29", 3)
         p.line("22 20, 16 27, 22 35")
         p.shape("-42 -34!, -16 -128!, 32 -48!, -8 -44")

@@ -1,7 +1,7 @@
-from faces import head
 from hand import *
 from limbs import palm
-from people import shoe
+from people import head, shoe
+from sideface import side_head
 
 p = Page("45", "Pancakes: father tosses one, looks up in vain - it has come down on the cat")
 
@@ -30,8 +30,8 @@ with p.at(520, 0, flip=True):
     p.shape(limb("26 214, 12 256", 30, 34, flat=True))
     p.shape("-32 272, -2 244!, 12 254, 30 246!, 44 268, 48 310, 48 350!, -50 354!, -50 310")
     p.shape("-50 350!, 0 358, 48 346!, 56 380, 72 424!, 0 434, -78 424!, -62 380")
-    with p.at(30, 188, 1.02, 10):
-        head(p, "side", "tails", eyes="happy", mouth="open", brows=None)
+    with p.at(25, 187, 1.02, 10):
+        side_head(p, "tails", eyes="happy", mouth="open", brows=None)
     palm(p, 84, 346, 20, 1.1, "point")
     p.one(limb("-12 280, 4 332, 34 336, 86 344", 48, 44, 40, 34, flat=True), join=(-12, 274, 25))
 

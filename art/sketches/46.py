@@ -1,7 +1,7 @@
-from faces import head
 from hand import *
 from limbs import palm
 from beasts import chick, hoof
+from sideface import side_head
 
 p = Page("46", "Feeding the animals: the hens run for the grain, the goat eats the girl's bow, the donkey would like some too")
 
@@ -38,7 +38,7 @@ with p.at(240, 150, flip=True):
     p.shape("-44 72, -18 52!, 2 62, 20 48!, 38 68, 40 130, 60 236!, 0 250, -76 238!, -54 140, -50 92")
     p.line("-54 140, 0 150, 40 132", 4)
     with p.at(18, -8, 1.02, 8):
-        head(p, "side", "tails", mouth="open", brows=None)
+        side_head(p, "tails", mouth="open", brows=None)
         p.shape("46 -18!, 20 -34, -24 -26, -56 -4!, -62 -34, -36 -62, 6 -72, 38 -50")
         p.shape("30 -38!, 76 -26, 66 -12, 20 -22, -58 -2!, -60 -14, -10 -38")
     with p.at(46, 176):

@@ -1,6 +1,7 @@
-from faces import head
 from hand import *
 from limbs import palm
+from people import head
+from sideface import side_head
 
 p = Page("47", "A strong castle: the knight rides to the drawbridge, the king waves from the tower, a goose runs ahead")
 
@@ -58,7 +59,7 @@ with p.at(164, 372, 1.0):
     p.shape("6 52!, 6 78, 8 84!, 64 84!, 62 70, 46 62, 44 54!")
     with p.at(-8, -146, .86):
         p.shape("-14 -50!, -60 -84, -100 -60, -110 -20!, -76 -34, -40 -34!")
-        head(p, "side", "short", mouth="smile", ear=False)
+        side_head(p, "short", mouth="smile", ear=False)
         p.shape("44 -34!, 24 -30, 12 -14!, 12 36!, -30 52!, -54 30, -56 -20, -34 -58, 10 -62, 38 -46")
     p.line("150 -58, 108 -40, 60 -50", 4)
     palm(p, 46, -49, -8, .9, "fist")

@@ -1,6 +1,7 @@
-from faces import head
 from hand import *
 from limbs import palm
+from people import head
+from sideface import side_head
 
 p = Page("48", "Colouring together round the table's corner: one draws with the tongue out, one leans over, one shows the portrait of the cat")
 
@@ -61,7 +62,7 @@ p.note("child in profile, tongue out, near at the left")
 with p.at(86, 274):
     p.shape(limb("-14 40, -24 100", 44, 50, flat=True))
     with p.at(-10, 2, 1.14, 10):
-        head(p, "side", "pony", mouth="tongue", r=5, brows=None)
+        side_head(p, "pony", mouth="tongue", r=5, brows=None)
     p.shape("-100 120, -56 80!, -20 96, 12 74!, 30 120, 24 300, -140 300, -120 170")
     p.shape("-52 74!, -20 92, 16 66!, 26 84!, -16 112, -60 94!")
 p.shape("206 330!, 222 322!, 266 426!, 268 452!, 250 434!")

@@ -1,7 +1,7 @@
-from faces import head
 from hand import *
 from limbs import palm
 from beasts import hoof
+from sideface import side_head
 
 p = Page("49", "In the camp: the child blows on the hot spoon; behind its back the raccoon walks off with the corn, the horse sees it all")
 
@@ -49,7 +49,7 @@ with p.at(352, 282, flip=True):
     with p.at(16, -16, 1.06, 2):
         p.shape("-24 -40!, -58 -72, -74 -96!, -60 -100!, -66 -132!, -38 -112, -14 -52!")
         p.line("-22 -54, -34 -78, -50 -102")
-        head(p, "side", "braid", eyes="closed", mouth="o", brows=4, r=4.2)
+        side_head(p, "braid", eyes="closed", mouth="o", brows=4, r=4.2)
         p.shape("-57 -16, -10 -44, 42 -36, 44 -20, -10 -26, -58 2")
     p.one(limb("-46 182, 24 178, 70 204", 62, 56, 44), limb("68 206, 30 222, -16 226", 42, 38, 34), oval(-22, 228, 24, 16), join=(-44, 178, 34))
     p.tube("150 24, 128 60, 96 92", 12)

@@ -1,6 +1,6 @@
-from faces import head
 from hand import *
 from limbs import palm
+from sideface import side_head
 
 p = Page("50", "Carnival: the bear cub walks into the clown's lifted shoe; behind, the princess throws streamers")
 
@@ -20,7 +20,7 @@ with p.at(506, 220, 1.1):
     p.shape("-26 14, -10 2!, 2 10, 14 2!, 28 18, 30 50, 32 74!, 4 82, -26 76!, -28 44")
     p.shape("-26 74!, 4 82, 32 72!, 52 120, 72 170!, 10 184, -56 172!, -44 120")
     with p.at(0, -36, .76, flip=True):
-        head(p, "side", "pony", mouth="open", brows=None, r=6.5)
+        side_head(p, "pony", mouth="open", brows=None, r=6.5)
         p.shape("-38 -40!, -48 -90!, -20 -66!, -4 -100!, 12 -66!, 40 -80!, 32 -38!, -4 -50")
     palm(p, 42, 74, 100, .7, "flat", -1)
     p.one(limb("16 22, 40 44, 42 74", 28, 24, 20, flat=True), join=(14, 18, 14))

@@ -1,6 +1,6 @@
-from faces import head
 from hand import *
 from limbs import bare_arm
+from sideface import side_head
 
 p = Page("51", "A day at the beach: the boy lies buried in the sand, his sister pats it down, the crab has found his toes")
 
@@ -30,7 +30,7 @@ with p.at(262, 146):
     with p.within(suit):
         p.lines("-90 166, 60 158", width=4)
     with p.at(24, -3, 1.02, 10):
-        head(p, "side", "pony", mouth="open", brows=None)
+        side_head(p, "pony", mouth="open", brows=None)
         p.shape("48 -16!, 20 -34, -20 -28, -54 -2!, -62 -30, -40 -60, 4 -70, 36 -52")
     p.shape(limb("74 78, 122 146", 16, 16))
     p.shape("108 136!, 134 122!, 162 160, 154 184, 132 174!")

@@ -1,7 +1,7 @@
-from faces import head
 from hand import *
 from limbs import palm
-from people import shoe
+from people import head, shoe
+from sideface import side_head
 
 p = Page("54", "Ducks in the park: the girl offers bread, the ducklings follow in a line, one sits on the sleeping grandfather's hat")
 
@@ -45,7 +45,7 @@ with p.at(470, 210, flip=True):
     p.shape(limb("14 34, 0 84", 32, 36, flat=True))
     p.shape("-36 84, -18 62!, -2 76, 18 58!, 36 84, 30 130, 16 166, -40 184, -84 170, -78 124")
     with p.at(24, -2, 1, 8):
-        head(p, "side", "tails", mouth="smile", brows=None)
+        side_head(p, "tails", mouth="smile", brows=None)
     p.one(limb("-50 152, 4 148, 48 132", 64, 56, 46), limb("46 130, 36 168, 16 208", 46, 38, 32, flat=True), join=(-56, 152, 34))
     shoe(p, 18, 212, 0, 1.15)
     p.shape("92 74!, 128 52, 156 66, 164 98, 142 118, 104 116!")

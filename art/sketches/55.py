@@ -1,7 +1,7 @@
-from faces import head
 from hand import *
 from limbs import palm
 from people import shoe
+from sideface import side_head
 
 p = Page("55", "Picnic seen from above: father pours, the girl bites the melon, a squirrel pulls the cake away, ants carry a cherry")
 
@@ -38,7 +38,7 @@ with p.at(514, 0, flip=True):
     p.shape(limb("2 206, -2 262", 30, 34, flat=True))
     p.shape("-44 268, -16 238!, -2 250, 14 236!, 34 258, 40 330, 24 386, -48 396, -72 346, -54 290")
     with p.at(8, 170, .96):
-        head(p, "side", "tails", eyes="happy", mouth="open", brows=None)
+        side_head(p, "tails", eyes="happy", mouth="open", brows=None)
     p.shape("62 142!, 64 234!, 102 230, 126 206, 126 168, 102 144")
     p.line("62 216, 90 212, 109 196, 108 174, 92 158, 63 158")
     for x, y in ((77, 178), (91, 186), (77, 198)):

@@ -1,6 +1,7 @@
-from faces import head
 from hand import *
 from limbs import palm
+from people import head
+from sideface import side_head
 
 p = Page("57", "Two in a canoe: grandfather paddles with all his strength; the girl shrugs, as the beaver swims off with her paddle")
 
@@ -34,7 +35,7 @@ with p.at(446, 0, flip=True):
     p.shape(limb("22 170, 10 240", 42, 46, flat=True))
     p.one("-62 236, -20 206!, 10 228, 34 204!, 56 240, 56 290, 50 400!, -84 400!, -80 310, -74 264")
     with p.at(26, 142, 1.06, 12):
-        head(p, "side", "long", eyes="closed", mouth="", brows=-4)
+        side_head(p, "long", eyes="closed", mouth="", brows=-4, r=4.4)
         p.shape("50 22!, 34 18, 24 28, 10 30, 12 48, 30 60, 46 48")
         p.shape("-58 -26, -10 -50, 38 -38, 42 -22, -10 -34, -58 -6")
 

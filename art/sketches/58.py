@@ -1,7 +1,7 @@
-from faces import head
 from hand import *
 from limbs import bare_arm, palm
 from people import shoe
+from sideface import side_head
 
 p = Page("58", "Playing with blocks: the girl on tiptoe sets the last one, the boy holds his breath, the dog's tail will do the rest")
 
@@ -54,7 +54,7 @@ with p.at(204, 0):
     p.line("-52 294, -4 306, 42 292")
     p.shape(heart(-8, 348, 20))
     with p.at(8, 138, .94, -14):
-        head(p, "side", "pony", mouth="tongue", brows=None)
+        side_head(p, "pony", mouth="tongue", brows=None)
     p.shape("90 90!, 152 76!, 160 136!, 100 148!")
     bare_arm(p, "10 244, 64 216, 90 134", 40, 36, 28, turn=-64, size=1.05, kind="flat", thumb=-1)
     p.one(limb("-20 256, 16 246, 48 228", 44, 46, 43, flat=True), join=(-24, 256, 24))
@@ -64,7 +64,8 @@ with p.at(520, 480, flip=True):
     p.one("64 -26, 20 -38, -30 -26, -90 -20, -140 -10, -140 40, -40 36, 56 38")
     p.line("-24 -30, -34 36", 4)
     with p.at(86, -66, .98, -10):
-        head(p, "side", "curly", mouth="o", brows=8)
+        side_head(p, "curly", mouth="o", brows=8, ear=False)
+        p.shape("-14 -2, -26 -4, -30 8, -24 18, -13 15")
     palm(p, 104, 2, -70, .9, "wave", -1)
     p.one(limb("30 -2, 44 26, 70 28, 102 4", 42, 40, 36, 32, flat=True), join=(26, -6, 24))
 p.note("blocks that wait")
