@@ -45,7 +45,8 @@ inline float missed(float value, float whole) { return std::abs(value - whole); 
 constexpr int QuickLimit = 1447;
 
 // The target is painted in blocks: narrow ones, so that the source points of neighbouring rows lie
-// close together whatever the angle, and low ones, so that what was found is still near.
+// close together whatever the angle, and low ones, so that what was found is still near. At most of
+// this size.
 constexpr int BlockWidth = 256, BlockRows = 4;
 // Places are found in whole groups, also where a row ends within one.
 constexpr int Group = 16;
@@ -176,9 +177,10 @@ class Rotation {
       return;
     }
     axis();
-    for (int left = 0; left <= N_; left += BlockWidth)
+    const int blocks = N_ / BlockWidth + 1, width = N_ / blocks + 1;  // of equal width
+    for (int left = 0; left <= N_; left += width)
       for (int top = 0; top <= lastRow(); top += BlockRows)
-        paintBlock({left, std::min(left + BlockWidth, N_ + 1)},
+        paintBlock({left, std::min(left + width, N_ + 1)},
                    {top, std::min(top + BlockRows, lastRow() + 1)});
   }
 
