@@ -66,13 +66,14 @@ struct Span {
 // Source points for target points in a row, from the source's middle: how far on in its memory, how
 // far the point on the other side of the middle, and their rows.
 struct Points {
-  std::array<std::int32_t, BlockWidth> distance, opposite, Y;
+  std::array<std::int32_t, BlockWidth> distance, opposite;
+  std::array<float, BlockWidth> Y;  ///< whole, but left as it was found
   Span sure, open;  ///< in the row, those within the source for sure, and those perhaps within it
 
   void set(std::size_t at, Offset to, int width) {
     distance[at] = to.Q * width + to.P;
     opposite[at] = -distance[at];
-    Y[at] = to.Q;
+    Y[at] = static_cast<float>(to.Q);
   }
 };
 
@@ -102,20 +103,20 @@ bool findQuickly(Piece& piece, float cosine, float sine, int sourceWidth) {
     const float scale = rounded(distance) / distance;
     const float mc = m * cosine, ms = m * sine;
     const float p = (mc - fs) * scale, q = (ms + fc) * scale;
-    const float p2 = (fc - ms) * scale, q2 = (fs + mc) * scale;
+    const float p2 = (fs + mc) * scale, q2 = (ms - fc) * scale;
     const float P = rounded(p), Q = rounded(q), P2 = rounded(p2), Q2 = rounded(q2);
     const float worst =
         std::max(std::max(missed(p, P), missed(q, Q)), std::max(missed(p2, P2), missed(q2, Q2)));
     const std::int32_t unsure = worst > sure;
     // Whole numbers below 2^24 within the limit.
     const auto straight = static_cast<std::int32_t>(Q * width + P),
-               swapped = static_cast<std::int32_t>(Q2 - P2 * width);
+               swapped = static_cast<std::int32_t>(Q2 * width + P2);
     piece.straight.distance[i] = straight;
     piece.straight.opposite[i] = -straight;
-    piece.straight.Y[i] = static_cast<std::int32_t>(Q);
+    piece.straight.Y[i] = Q;
     piece.swapped.distance[i] = swapped;
     piece.swapped.opposite[i] = -swapped;
-    piece.swapped.Y[i] = -static_cast<std::int32_t>(P2);
+    piece.swapped.Y[i] = Q2;
     piece.unsure[i] = unsure;
     any |= unsure;
   }
@@ -228,10 +229,11 @@ class Rotation {
   void find(Piece& piece, Span columns, int row) const {
     const Span straight{std::max(columns.first, 1), columns.last};
     const Span swapped = row > 0 ? columns : Span{columns.first, columns.first};
-    piece.straight.open = around_.of(row).within(straight);
-    piece.straight.sure = within_.of(row);
-    piece.swapped.open = around_.of(row).opposite().within(swapped);
-    piece.swapped.sure = within_.of(row).opposite();
+    const Span open = around_.of(row), sure = within_.of(row);
+    piece.straight.open = open.within(straight);
+    piece.straight.sure = sure;
+    piece.swapped.open = open.opposite().within(swapped);
+    piece.swapped.sure = sure.opposite();
     piece.fixed = row;
     piece.first = columns.first;
     piece.count = std::max(piece.straight.open.last, piece.swapped.open.last) - columns.first;
@@ -311,7 +313,7 @@ class Rotation {
   void paintWithin(const Points& points, Pixel* to, Span span) const {
     for (int i = span.first; i < span.last; ++i) {
       const auto at = static_cast<std::size_t>(i);
-      const int Y = points.Y[at], X = points.distance[at] - Y * source_.width();
+      const int Y = static_cast<int>(points.Y[at]), X = points.distance[at] - Y * source_.width();
       if (source_.contains(sx_ + direction * X, sy_ + direction * Y))
         to[direction * i] = middle_[direction * points.distance[at]];
     }
