@@ -26,10 +26,12 @@ struct LiteralKaleidoscope {
   bool nieuwBeeld = true, enkeleSpaak = false, hoekMarkeren = true;
   double beeldStraal = 0;
   float aantalSpaken = 0;
+  int lijnTeller = 0;
 
   void draw(Form& blad, Random& random) {
     if (nieuwBeeld) {
       nieuwBeeld = false;
+      lijnTeller = 0;
       aantalSpaken = static_cast<float>(2 * std::floor(random.Rnd() * 5.0) + 6);
       const double side = random.Rnd() > 0.5 ? blad.ScaleWidth() : blad.ScaleHeight();
       beeldStraal = side * 0.9 / 2;
@@ -55,6 +57,7 @@ struct LiteralKaleidoscope {
     double circle = random.Rnd() * 300.0 + 50;
     const Color color = RGB(red, green, blue);
     for (int step = 1; step <= steps; ++step) {
+      ++lijnTeller;
       circle *= circleFactor;
       angle1 *= angleFactor1;
       angle2 *= angleFactor2;
@@ -122,6 +125,7 @@ TEST(Kaleidoscope, DrawsFigureUponFigureAsItIsToldInEveryStyleAndWithAndWithoutS
         << "figure " << figure;
     ASSERT_EQ(kaleidos.beeldStraal, literal.beeldStraal);
     ASSERT_EQ(kaleidos.aantalSpaken, literal.aantalSpaken);
+    ASSERT_EQ(kaleidos.lijnTeller, literal.lijnTeller);
     ASSERT_EQ(papers.ours.DrawStyle, papers.literal.DrawStyle);
     ASSERT_EQ(papers.ours.FillStyle, papers.literal.FillStyle);
   }

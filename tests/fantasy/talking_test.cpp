@@ -322,7 +322,7 @@ TEST_F(WheelScreen, AFractionOfAShrinkGoesToTheEvenNeighbour) {
 }
 
 TEST_F(WheelScreen, TheShrinkBarHidesTheSpeedAndTheSpeedTheShrinkBar) {
-  screen.HScroll2.Value = 20;
+  screen.HScroll2.Value = 1;
   EXPECT_FALSE(screen.Slider1.Visible || screen.lblSnelheid.Visible || screen.lblSnelheid2.Visible);
   click(screen.cmdStart);
   click(screen.cmdStart);
@@ -368,7 +368,13 @@ TEST_F(WheelScreen, TheBoxShowsTheFirstColourAndTheNextRunBeginsWithIt) {
   EXPECT_EQ(screen.txtBeginkleur.BackColor, 0xFF0000);
   EXPECT_EQ(screen.txtBeginkleur.ForeColor, 0xFF0000);
   click(screen.cmdStart);
+  EXPECT_EQ(screen.wiel.huidigRood, 0);
   EXPECT_EQ(screen.wiel.huidigBlauw, 255);
+  click(screen.cmdStart);
+  screen.HScroll4.Value = 700;
+  click(screen.cmdStart);
+  EXPECT_EQ(screen.wiel.huidigGroen, 255);
+  EXPECT_EQ(screen.wiel.huidigBlauw, 188);
   screen.HScroll4.Value = 1536;
   EXPECT_EQ(screen.txtBeginkleur.BackColor, Black);
 }

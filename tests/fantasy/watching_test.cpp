@@ -136,6 +136,9 @@ TEST_F(KaleidoscopeScreen, GroterStartsOverAndItsFirstFigureIsWiped) {
   click(screen.cmdVergroten);
   EXPECT_EQ(painted(screen), 0);
   EXPECT_TRUE(screen.modKaleidos.hoekMarkeren);
+  EXPECT_FALSE(screen.modKaleidos.nieuwBeeld)
+      << "the next figure joins the picture of the wiped one";
+  EXPECT_LE(screen.modKaleidos.lijnTeller, 22);
   EXPECT_EQ(screen.BackColor, 0xE0E0E0);
   advance(300);
   EXPECT_GT(painted(screen), 0);
