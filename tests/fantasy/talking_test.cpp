@@ -412,5 +412,6 @@ TEST_F(WheelScreen, AFinishedWheelStaysUntilTheNextStartClearsIt) {
   advance(10'000);
   EXPECT_EQ(wheel.bitmap(), screen.Image().bitmap());
   click(screen.cmdStart);
+  EXPECT_EQ(screen.wiel.straal, 3900);
   EXPECT_EQ(screen.Point({6000, 4100}), 0xE0E0E0);
 }

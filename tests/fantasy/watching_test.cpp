@@ -154,6 +154,7 @@ TEST_F(KaleidoscopeScreen, EnormLeavesTheSpokesAwayUntilTheNextStart) {
 
 TEST_F(KaleidoscopeScreen, TragerWaitsFourTenthsOfASecondAndTheOthersHurryAgain) {
   click(screen.cmdLangzaam);
+  EXPECT_TRUE(screen.modKaleidos.nieuwBeeld);
   EXPECT_EQ(screen.Timer1.Interval, 400);
   advance(400);
   const int before = screen.modKaleidos.lijnTeller;
@@ -248,13 +249,17 @@ TEST_F(StarsScreen, SpreadAnewInAWindowOfAnotherHeight) {
 }
 
 TEST_F(StarsScreen, SnellerAndTragerGiveAllStarsNewPlacesAndSpeeds) {
-  const auto places = screen.sterren.sterX;
+  const Sterren opened = screen.sterren;
   click(screen.cmdSneller);
   EXPECT_EQ(screen.Timer1.Interval, 1);
-  EXPECT_NE(screen.sterren.sterX, places);
+  const Sterren faster = screen.sterren;
+  EXPECT_NE(faster.sterX, opened.sterX);
+  EXPECT_NE(faster.sterSnelheid, opened.sterSnelheid);
   expectPair(screen.cmdTrager, screen.cmdSneller);
   click(screen.cmdTrager);
   EXPECT_EQ(screen.Timer1.Interval, 100);
+  EXPECT_NE(screen.sterren.sterX, faster.sterX);
+  EXPECT_NE(screen.sterren.sterSnelheid, faster.sterSnelheid);
   expectPair(screen.cmdSneller, screen.cmdTrager);
 }
 
