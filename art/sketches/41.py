@@ -53,7 +53,7 @@ with p.at(500, 0, flip=True):
     p.shape("-46 228, -14 212!, 10 212!, 36 236, 42 290, 46 560!, -100 560!, -92 330, -76 250")
     p.shape("-14 210!, 10 210!, 20 232, 40 262!, 10 256, -10 236")
     with p.at(0, 150, 1.06, 12):
-        side_head(p, "bun", mouth="smile", brows=4)
+        side_head(p, "bun", mouth="smile", brows=None)
         p.line("-18 -7, 12 -6", 4)
         p.shape(oval(25, -4, 15, 14))
         p.eye(28, -2, 4.6)
