@@ -1,7 +1,7 @@
-"""What the fantasy screens cost a child's machine: share.py KRASPRET [SECONDS]. Each runs at its fastest on a virtual screen of 1920 by
-1080, at the factor that the program itself takes there. Counted is the time that the program has run, so that a busy machine changes
-little; the answer of the button that leaves is what a clock on the wall says, less the waiting for a processor. Exit status 1 if a bar
-is not reached."""
+"""What the fantasy screens cost a child's machine: share.py KRASPRET [SECONDS [FACTOR]]. Each runs at its fastest on a virtual screen of
+1920 by 1080, at the factor that the program itself takes there if none is given. Counted is the time that the program has run, so that a
+busy machine changes little; the answer of the button that leaves is what a clock on the wall says, less the waiting for a processor.
+Exit status 1 if a bar is not reached, or if a screen that rests at first cannot be set going."""
 import pathlib
 import sys
 import time
@@ -21,6 +21,7 @@ LEAVES_LATE = 22  # seconds until the worms let a child go
 SECONDS = 10.0
 ANSWER = 0.1  # seconds
 RESTS, MOVES, DRAWS = 2.0, 15.0, 60.0  # percent of a core
+STIRS = 0.1  # percent of a core that even the lightest tick takes
 
 
 class Scene:
@@ -59,9 +60,11 @@ def share(process, seconds):
 class Child:
     """One that knows where the buttons are."""
 
-    def __init__(self, program):
-        self.screen = Screen(SIZE)
+    def __init__(self, program, factor):
+        self.screen, self.factor = Screen(SIZE), float(factor or FACTOR)
         del self.screen.env["QT_SCALE_FACTOR"]
+        if factor:
+            self.screen.env["QT_SCALE_FACTOR"] = factor
         self.watched = Watched(self.screen)
         self.process = self.screen.start(program, [], self.screen.folder / "program.log")
         self.corner = self.window(MENU)
@@ -78,7 +81,7 @@ class Child:
 
     def spot(self, place):
         """A little inside of a control."""
-        return tuple(round(corner + (twips / 15 + inside) * FACTOR) for corner, twips, inside in zip(self.corner, place, (9, 9)))
+        return tuple(round(corner + (twips / 15 + inside) * self.factor) for corner, twips, inside in zip(self.corner, place, (9, 9)))
 
     def press(self, place):
         self.screen.click(*self.spot(place))
@@ -111,8 +114,8 @@ class Child:
         return answered
 
 
-def main(program, seconds=SECONDS):
-    child = Child(program)
+def main(program, seconds=SECONDS, factor=None):
+    child = Child(program, factor)
     good = True
 
     def tell(what, value, bar, unit):
@@ -120,17 +123,21 @@ def main(program, seconds=SECONDS):
         good &= value <= bar
         print(f"{what:28} {value:7.1f}  at most {bar:5.1f} {unit}{'' if value <= bar else '  MISSED'}", flush=True)
 
-    print(f"{SIZE[0]} by {SIZE[1]}, factor {FACTOR}, {float(seconds):g} s each")
+    print(f"{SIZE[0]} by {SIZE[1]}, factor {child.factor}, {float(seconds):g} s each")
     try:
         child.press(FANTASY)
         for scene in SCENES:
             child.open(scene)
             if scene.rests:
                 time.sleep(1)  # it has come up
-                tell(f"{scene.name}, at rest", share(child.process, float(seconds) / 2), RESTS, "% of a core")
+                resting = share(child.process, float(seconds) / 2)
+                tell(f"{scene.name}, at rest", resting, RESTS, "% of a core")
             opened = time.perf_counter()
             child.hurry(scene)
-            tell(scene.name, share(child.process, float(seconds)), scene.bar, "% of a core")
+            moving = share(child.process, float(seconds))
+            if scene.rests and moving < resting + STIRS:
+                raise SystemExit(f"{scene.name} stands still")
+            tell(scene.name, moving, scene.bar, "% of a core")
             if scene.name == "worms":
                 time.sleep(max(0.0, LEAVES_LATE - (time.perf_counter() - opened)))
             tell(f"{scene.name}, left in", 1000 * child.leave(scene), 1000 * ANSWER, "ms")
