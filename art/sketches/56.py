@@ -1,5 +1,5 @@
 from hand import *
-from limbs import palm
+from limbs import palm, sleeve
 from people import *
 
 p = Page("56", "The pirates' ship: the captain peers through his telescope, the parrot peers back from its other end; the monkey steers")
@@ -9,7 +9,7 @@ p.line("-10 344, 640 344", 4)
 
 p.note("mast and sails full of wind")
 with p.at(330, 330, 1, -6):
-    p.shape(box(-8, -330, 16, 330))
+    p.shape(box(-8, -330, 16, 400))
     p.shape("-84 -262!, 92 -262!, 116 -200, 108 -130, 86 -104!, -98 -104!, -58 -150, -60 -210")
     p.shape("-80 -78!, 88 -78!, 108 -44, 98 -4!, -92 -4!, -64 -36")
     with p.at(24, -186, 1.1):
@@ -25,7 +25,7 @@ p.note("stern, the monkey at the wheel")
 p.shape("452 262!, 604 240!, 616 340!, 452 376!")
 with p.at(536, 170):
     p.one(limb("22 56, 58 50, 72 10, 50 -4, 44 14", 15, 14, 13, 12))
-    p.one("-16 -4, 22 -4, 38 44, 36 92, -28 96, -30 44")
+    p.one("-16 -4, 22 -4, 38 44, 36 84, -10 90, -30 44", limb("16 72, -26 74, -32 112", 44, 32, 24), oval(-42, 122, 19, 12, -8))
     p.shape(oval(34, -36, 13, 15))
     p.one("-36 -34, -22 -62, 12 -68, 36 -44, 32 -14, 8 2, -22 2, -44 -14")
     p.shape("-40 -22, -34 -46, -18 -42, -4 -50, 10 -34, 4 -20, 12 -8, -8 2, -32 0")
@@ -37,7 +37,7 @@ for t in (0, 90):
     with p.at(464, 218, 1, t):
         p.lines("0 -50, 0 50", width=5)
 p.shape(oval(464, 218, 10))
-p.one(limb("524 196, 514 224, 500 216", 26, 21), oval(498, 212, 13, 12), join=(528, 192, 15))
+p.one(limb("528 196, 520 226, 500 214", 28, 22), oval(496, 210, 13, 12), join=(531, 190, 17))
 
 p.note("captain in profile with the telescope")
 with p.at(228, 214, 1.08, flip=True):
@@ -51,9 +51,9 @@ with p.at(228, 214, 1.08, flip=True):
     p.line("8 -10, 18 -2, 28 -6")
     p.shape("38 -20!, 96 -36!, 102 -12!, 44 4!")
     p.shape("92 -42!, 154 -58!, 162 -24!, 100 -6!")
-    palm(p, 84, 14, -84, .96, "fist")
-    p.one(limb("-18 98, -2 146, 56 140, 86 24", 56, 58, 52, 40, flat=True), join=(-20, 92, 29))
-    p.shape("66 48!, 104 50!, 112 14!, 64 10!")
+    palm(p, 88, 26, -84, 1.1, "fist")
+    sleeve(p, "-22 104, 6 152, 60 148, 86 44", 58, 56, 50, 38)
+    p.shape("64 62!, 104 66!, 110 30!, 62 24!")
     p.shape("52 22!, 36 18, 20 28, 2 22, -12 12, -22 12!, -36 40, -26 76, 0 92, 20 84, 42 88, 46 62, 58 48")
     p.line("12 44, 24 54, 38 48")
 p.note("the parrot on its end looks in")
