@@ -34,7 +34,7 @@ with p.at(276, 157):
         side_head(p, "pony", mouth="open", brows=None)
         p.shape("48 -16!, 20 -34, -20 -28, -54 -2!, -62 -30, -40 -60, 4 -70, 36 -52")
     bare_arm(p, "0 118, 46 146, 98 120", 36, 34, 28, turn=-14, size=.95, kind="fist")
-    p.one(limb("-26 112, -8 126, 20 136", 42, 44, 42, flat=True), join=(-30, 106, 27))
+    p.one(limb("-22 120, -4 130, 20 136", 42, 44, 42, flat=True), join=(-24, 112, 29))
 
 p.note("the mound of sand, toes and head of the boy")
 with p.at(150, 420, 1.12, -62):
