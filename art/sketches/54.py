@@ -6,29 +6,31 @@ from sideface import side_head
 p = Page("54", "Ducks in the park: the girl offers bread, the ducklings follow in a line, one sits on the sleeping grandfather's hat")
 
 p.note("park far away, path")
-p.shape(scallops("-30 -30, -30 110, 60 140, 160 110, 240 140, 250 60, 230 -30", 11, .3))
+p.shape(scallops("-30 -30, -30 150, 60 166, 160 166, 240 130, 250 60, 230 -30", 11, .3))
 p.shape(scallops("420 -30, 400 60, 460 110, 560 90, 650 120, 660 -30", 9, .3))
 p.shape("-10 236, 200 216, 420 232, 640 214!, 640 560!, -10 560!")
 
-p.note("bench with grandfather asleep")
+p.note("bench with grandfather asleep: thighs towards us, shins down, shoes on the path")
 p.shape(box(26, 150, 250, 46))
-p.shape(box(36, 280, 18, 60))
-p.shape(box(250, 280, 18, 60))
-p.shape(box(16, 262, 270, 20))
-with p.at(140, 138):
-    p.shape(limb("-30 160, -38 204", 48, 40, flat=True, steps=3))
-    p.shape(limb("30 160, 26 204", 48, 40, flat=True, steps=3))
-    shoe(p, -38, 200, 0, 1.05)
-    shoe(p, 26, 200, 0, 1.05)
+p.shape(box(36, 270, 18, 92))
+p.shape(box(250, 270, 18, 92))
+p.shape(box(16, 258, 270, 20))
+with p.at(140, 130):
+    for x, side in ((-34, -1), (34, 1)):
+        p.shape(limb(f"{x} 166, {x + side * 4} 222", 40, 34, flat=True, steps=3))
+        with p.at(x + side * 4, 222, 1.1, side * 6, flip=side < 0):
+            p.shape("-15 -8!, -18 6, -18 20!, 34 20!, 36 8, 20 0, 13 -8!")
     p.shape(limb("2 36, 0 84", 36, 40, flat=True))
-    p.one("-56 106, -50 84, -22 66!, 0 80, 22 64!, 50 82, 56 106, 56 170!, 0 178, -56 170!", limb("-36 96, -66 134, -18 146", 44, 42, 34, flat=True), limb("36 96, 66 134, 30 144", 44, 42, 34, flat=True))
-    p.lines("-36 102, -44 122, -30 138", "36 102, 42 122, 26 132", width=4)
-    palm(p, 22, 140, 176, .95, "flat", -1)
-    palm(p, -22, 146, 2, 1.02, "flat")
+    p.one("-60 108, -52 84, -22 66!, 0 80, 22 64!, 52 82, 60 106, 50 158!, 0 166, -50 158!", limb("42 92, 70 132, 26 136", 42, 38, 32, flat=True), limb("-42 92, -70 136, -22 140", 42, 38, 32, flat=True))
+    p.one(limb("-24 144, -36 170", 60, 50, steps=4), limb("24 144, 36 170", 60, 50, steps=4))
+    palm(p, 26, 136, 174, .95, "flat", -1)
+    p.one(limb("42 92, 70 132, 26 136", 42, 38, 32, flat=True), join=(38, 86, 29))
+    palm(p, -22, 140, -2, 1.02, "flat")
+    p.one(limb("-42 92, -70 136, -22 140", 42, 38, 32, flat=True), join=(-38, 86, 29))
     with p.at(8, 0, 1.02, 12):
-        head(p, "34", "bald", eyes="closed", mouth="", brows=None, nose=False)
-        p.shape("27 16!, 10 12, -4 22, -20 16, -14 34, 10 38, 27 28!, 38 36, 52 32, 60 16, 48 21, 41 13")
-        p.shape(oval(31, 8, 11, 9.5))
+        head(p, "34", "bald", eyes="closed", mouth="", brows=None, ear=False, r=4, nose=False)
+        p.shape("21 19!, 8 16, -6 25, -20 18, -15 36, 8 41, 22 31!, 34 38, 50 35, 58 19, 44 26, 34 17")
+        p.shape(oval(21, 11, 10, 9))
         p.shape("-54 -16!, -50 -34, 40 -34, 60 -14!, 10 -24")
         p.shape("-46 -32!, -40 -62, 0 -70, 34 -60, 40 -32!")
     with p.at(6, -92, .82):
@@ -53,7 +55,7 @@ with p.at(470, 210, flip=True):
     p.one(limb("-20 92, 14 122, 44 124, 88 108", 44, 40, 38, 32, flat=True), join=(-22, 88, 21))
 
 p.note("pond in front")
-p.shape("-10 392, 110 366, 300 388, 400 446, 500 452, 640 446!, 640 560!, -10 560!")
+p.shape("-10 404, 110 392, 300 404, 400 448, 500 452, 640 446!, 640 560!, -10 560!")
 
 p.note("mother duck, near and large, turns her head up to the bread")
 with p.at(176, 404, 1.1):
