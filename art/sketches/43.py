@@ -17,7 +17,7 @@ with p.at(340, 176):
     p.one("-60 88, -24 68!, 0 80, 24 68!, 56 84, 62 180!, -60 180!", limb("-36 92, -84 100, -82 22", 46, 42, 34, flat=True), limb("34 92, 72 104, 96 118", 46, 40, 34, flat=True))
     p.line("-44 128, -36 110")
     with p.at(0, 0, .98, -6, flip=True):
-        head(p, "34", "curly", eyes="happy", mouth="open", brows=None)
+        head(p, "34", "curly", eyes="happy", mouth="open", brows=None, ear=False)
 
 p.note("drums")
 p.shape("362 296!, 368 350, 412 358, 452 344!, 458 290!")
@@ -64,7 +64,7 @@ with p.at(130, 350, 1, -19):
     p.shape("-32 -22!, -20 -22!, -20 22!, -32 22!")
 palm(p, 232, 285, 42, .98, "fist", -1)
 palm(p, 126, 348, 4, 1.08, "wave")
-p.one(limb("88 262, 48 330, 78 358, 128 350", 58, 52, 46, 38, flat=True), join=(90, 256, 29))
+p.one(limb("92 266, 50 330, 78 358, 128 350", 50, 46, 44, 38, flat=True), join=(92, 262, 29))
 
 p.note("the cat in front, paws over its ears")
 with p.at(440, 446):
