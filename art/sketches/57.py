@@ -1,5 +1,5 @@
 from hand import *
-from limbs import palm
+from limbs import palm, sleeve
 from people import head
 from sideface import side_head
 
@@ -18,10 +18,9 @@ p.note("girl in the bow, turned round to him, empty-handed")
 with p.at(180, 192):
     p.shape("-24 -44!, -58 -76, -74 -100!, -60 -104!, -66 -136!, -38 -116, -14 -56!")
     p.line("-22 -56, -34 -80, -50 -106")
-    palm(p, -92, 106, -118, 1, "wave", -1)
-    palm(p, 92, 106, -62, 1, "wave")
+    palm(p, 90, 108, -58, 1, "open")
     p.shape(limb("-2 36, -4 88", 34, 38, flat=True))
-    p.one("-48 82, -24 64!, -4 80, 16 64!, 44 82, 50 130, 56 220!, -58 220!, -54 130", limb("-34 92, -62 136, -93 104", 44, 42, 34, flat=True), limb("30 92, 62 136, 93 104", 44, 42, 34, flat=True))
+    p.one("-48 82, -24 64!, -4 80, 16 64!, 44 82, 50 130, 56 220!, -58 220!, -54 130", limb("30 92, 62 136, 93 104", 44, 42, 34, flat=True))
     p.line("-26 92!, -14 106!, -2 94!, 10 106!, 22 92!")
     with p.at(2, 0, 1, -6):
         head(p, "34", "braid", eyes="white", look=(1, 0), mouth="o", brows=10, r=4.6)
@@ -42,6 +41,11 @@ with p.at(446, 0, flip=True):
 p.note("canoe, from the side, bow to the left")
 p.shape("16 284!, 56 342, 160 362, 320 370, 480 362, 562 334, 606 276!, 616 330, 586 400, 500 440, 330 452, 150 444, 56 400, 20 346")
 p.line("27 336, 110 384, 320 400, 500 390, 609 318", 4)
+p.note("her near arm over the rim: there it goes")
+palm(p, 90, 348, 106, 1.25, "point", 1)
+sleeve(p, "146 278, 106 304, 91 350", 46, 42, 34)
+with p.at(182, 192, 1, -6):
+    p.one(oval(-48, 50, 15, 13), oval(-52, 70, 13, 12), oval(-52, 88, 11, 10), "-56 96, -60 116!, -46 112!, -46 96", join=(-48, 42, 15))
 p.line("120 410!, 150 426!, 180 412!, 210 430!, 240 416!", 4)
 p.line("392 418!, 422 430!, 452 414!, 482 426!, 512 408!", 4)
 
