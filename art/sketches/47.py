@@ -9,11 +9,16 @@ p.note("hill and path")
 p.shape("-10 290!, 130 262, 300 276, 640 210!, 640 560!, -10 560!")
 
 p.note("castle seen from below")
-battlement = lambda x, y, w, h, n: f"{x} {y + h}!, {x} {y}!" + "".join(
-    f", {x + w * (k + .5) / n} {y}!, {x + w * (k + .5) / n} {y + 18}!, {x + w * (k + 1) / n} {y + 18}!, {x + w * (k + 1) / n} {y}!" for k in range(n - 1)) + f", {x + w} {y}!, {x + w} {y + h}!"
+def battlement(x, y, w, h, n):
+    """A wall with `n` teeth, 18 deep."""
+    step = w / (2 * n - 1)
+    teeth = [f"{x + step * k} {y + 18 * up}!" for k in range(1, 2 * n - 1) for up in ((k + 1) % 2, k % 2)]
+    return ", ".join([f"{x} {y + h}!", f"{x} {y}!", *teeth, f"{x + w} {y}!", f"{x + w} {y + h}!"])
+
+
 p.shape("338 398!, 342 120!, 416 120!, 420 398!")
 p.shape(battlement(326, 70, 106, 56, 3))
-p.shape(battlement(456, 34, 180, 364, 4))
+p.shape(battlement(456, 34, 168, 364, 4))
 p.shape(battlement(318, 178, 140, 220, 3))
 p.shape("332 398!, 332 300, 350 264, 388 248, 426 264, 444 300, 444 398!")
 p.shape("350 398!, 350 306, 366 280, 388 268, 410 280, 426 306, 426 398!")
@@ -25,10 +30,10 @@ p.shape(window)
 with p.within(window):
     with p.at(538, 190, 1, flip=True):
         p.shape("-72 110!, -58 70, -20 46, 24 46, 70 60, 86 110!")
-        side_head(p, "short", mouth="", brows=2, r=5.6)
+        side_head(p, "short", mouth="", brows=None, r=5.6)
         p.shape("49 22!, 36 18, 20 26, 2 14, -10 10!, -24 34, -12 58, 14 74, 40 70, 54 52")
         p.line("42 36, 34 42, 25 40")
-        p.shape("-50 -22!, -58 -78!, -28 -58!, -2 -86!, 22 -60!, 50 -82!, 48 -24!, 0 -32")
+        p.shape("-46 -24!, -52 -70!, -25 -52!, -2 -80!, 22 -53!, 47 -74!, 50 -22!, 0 -32")
 palm(p, 431, 214, -110, 1, "wave", -1)
 p.shape(limb("546 262, 480 264, 432 216", 36, 34, 30, flat=True))
 p.shape("452 268!, 640 268!, 640 290!, 452 290!")
@@ -60,13 +65,13 @@ with p.at(164, 372, 1.0):
     p.shape("6 52!, 6 78, 8 84!, 64 84!, 62 70, 46 62, 44 54!")
     with p.at(-8, -146, .86):
         p.shape("-14 -50!, -60 -84, -100 -60, -110 -20!, -76 -34, -40 -34!")
-        side_head(p, "short", mouth="smile", ear=False)
+        side_head(p, None, mouth="smile", brows=None, ear=False)
         p.shape("44 -34!, 24 -30, 12 -14!, 12 36!, -30 52!, -54 30, -56 -20, -34 -58, 10 -62, 38 -46")
     p.line("150 -58, 108 -40, 60 -50", 4)
     palm(p, 46, -49, -8, .9, "fist")
     p.one(limb("-16 -80, -14 -44, 16 -40, 48 -50", 42, 38, 34, 30, flat=True), join=(-16, -84, 22))
 p.note("goose in front runs along")
-with p.at(440, 514, .9, 12):
+with p.at(474, 514, .9, 2):
     p.lines("-16 22, -24 40", "6 24, 10 40", width=4)
     p.shape("-64 -16!, -30 -20, 10 -16, 26 -50, 30 -74, 48 -84, 62 -68, 52 -48, 44 -6, 20 24, -24 26, -52 10")
     p.shape("60 -76!, 86 -66, 58 -58!")
