@@ -22,9 +22,9 @@ p.lines("104 10, 64 124", "126 8, 160 120", width=4)
 
 p.note("girl kneels behind the mound, in profile, and presses the spade on the sand with both hands")
 with p.at(276, 157):
-    p.shape(limb("90 50, 126 150", 16, 16))
+    p.shape(limb("88 42, 126 150", 16, 16))
     p.shape("106 148!, 142 136!, 160 166, 158 206, 130 210, 112 182")
-    bare_arm(p, "20 104, 58 100, 82 76", 34, 30, 26, turn=-10, size=.95, kind="fist")
+    bare_arm(p, "20 98, 58 95, 82 70", 34, 30, 26, turn=-10, size=.95, kind="fist")
     p.shape(limb("16 24, 4 96", 32, 36, flat=True))
     suit = "-56 110, -26 72!, -2 82, 22 68!, 38 98, 26 150, 30 230, -20 240, -64 230, -72 168"
     p.shape(suit)
@@ -34,7 +34,7 @@ with p.at(276, 157):
         side_head(p, "pony", mouth="open", brows=None)
         p.shape("48 -16!, 20 -34, -20 -28, -54 -2!, -62 -30, -40 -60, 4 -70, 36 -52")
     bare_arm(p, "0 118, 46 146, 98 120", 36, 34, 28, turn=-14, size=.95, kind="fist")
-    p.one(limb("-22 120, -4 130, 20 136", 42, 44, 42, flat=True), join=(-24, 112, 29))
+    p.one(limb("-22 120, -4 130, 20 136", 42, 44, 42, flat=True), join=[(-24, 112, 29), (8, 106, 15)])
 
 p.note("the mound of sand, toes and head of the boy")
 with p.at(150, 420, 1.12, -62):
