@@ -86,7 +86,8 @@ palm(p, 532, 440, -106, 1, "fist", -1)
 p.shape(limb("590 500, 548 500, 534 438", 40, 34, 27, flat=True))
 p.shape("560 540!, 564 492, 586 474, 620 480, 640 540!")
 with p.at(582, 420, .86, 8, flip=True):
-    head(p, "34", "tuft", mouth="open", brows=None, r=5.6)
+    head(p, "34", "tuft", mouth="open", brows=None, r=5.6, nose=False)
+    p.line("25 3, 30 9, 22 11")
 p.shape("476 506!, 640 498!, 640 560!, 468 560!")
 
 p.note("cat on the chimney")
