@@ -20,7 +20,8 @@ with p.at(0, 0):
     p.shape("470 150!, 574 150!, 574 252!, 470 252!")
     p.note("driver")
     with p.at(522, 222, .78, flip=True):
-        head(p, "34", "bald", mouth="open", brows=None)
+        head(p, "34", "bald", mouth="open", brows=None, nose=False)
+        p.line("21 4, 26 9, 19 11")
         p.shape("-54 -8, -50 -42, -10 -62, 34 -50, 42 -24!, 66 -14, 40 -12, 10 -20, -30 -16")
     p.shape("456 252!, 588 252!, 588 337!, 456 337!")
     p.note("boiler, chimney, dome")
@@ -67,6 +68,7 @@ with p.at(336, 462, .92):
     p.shape(limb("0 40, 0 84", 36, 38, flat=True))
     p.one("-56 82, -20 62!, 0 70, 20 62!, 56 82, 60 120!, -60 120!", limb("-34 92, -78 84, -92 14", 48, 42, 34, flat=True))
     head(p, "back", "tails")
+    p.line("2 -60, 5 -34, 4 -4")
 with p.at(470, 470, .86):
     palm(p, 94, 12, -82, 1.1, "wave")
     p.shape(limb("0 40, 0 84", 36, 38, flat=True))
