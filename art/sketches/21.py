@@ -72,7 +72,8 @@ window = "-20 312!, 90 316!, 90 388!, -20 382!"
 p.shape(window)
 with p.within(window):
     with p.at(34, 362, .68):
-        head(p, "34", "", mouth="smile", brows=None, r=7, ear=False)
+        head(p, "34", "", mouth="smile", brows=None, r=5.6, ear=False, nose=False)
+        p.line("21 4, 26 9, 19 11")
         p.shape("-54 -14!, -48 -50, 0 -66, 42 -46, 54 -16!, 0 -24")
 p.put(f'<path fill="none" d="{p.path(window)}"/>')
 p.shape("52 278!, 52 256, 64 248, 88 248, 100 258, 100 280!, 76 286")
