@@ -22,8 +22,8 @@ std::int16_t toInt16(double value);
 /// Rounds ties to even into 32 bits; outside the range an Overflow error.
 std::int32_t toInt32(double value);
 
-/// The number at the start of a text, with a point as decimal separator; 0 if there is none, and the
-/// largest there is for one beyond it.
+/// The number at the start of a text, with a point as decimal separator; 0 if there is none, and
+/// the largest there is for one beyond it.
 double Val(const std::string& text);
 
 /// The separator between whole and fraction where a user reads or types a number; '.' until the
