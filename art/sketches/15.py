@@ -1,3 +1,5 @@
+import math
+
 from hand import *
 from beasts import *
 
@@ -19,6 +21,15 @@ def monkey_head(p, eyes="dot", mouth="open", look=1):
     else:
         p.shape("2 16!, 22 19, 42 13!, 40 28, 22 32, 6 28", 3)
         p.line("4 23, 22 26, 41 21")
+
+def foot(x, y, turn=0, flip=False, size=1):
+    """A foot that grips: long toes in front, the big one stands off like a thumb; its ankle lies at (x, y), the toes at the right."""
+    c, s = math.cos(math.radians(turn)) * size, math.sin(math.radians(turn)) * size
+    m = -1 if flip else 1
+    put = lambda text: [(x + m * a * c - b * s, y + m * a * s + b * c, corner) for a, b, corner in points(text)]
+    return put("-16 -14, -24 4, -22 18, -6 23, 22 22, 46 23, 56 15, 50 5, 30 3!, 40 -5, 40 -16, 30 -19, 18 -9, 14 -14"), \
+        put("55 14, 40 14")
+
 
 p.note("leaves far away")
 p.shape("-10 350, 90 316, 200 392, 330 428, 470 418, 640 360!, 640 560!, -10 560!")
@@ -47,7 +58,7 @@ p.note("little monkey hangs by its tail")
 def hanging():
     return p.at(462, 268, 1, 180)
 with hanging():
-    p.one(limb("-4 42, -22 100, -26 158, -14 196", 24, 21, 20), limb("-20 44, -62 60, -66 98", 36, 28, 24), oval(-70, 104, 24, 15, 20), limb("24 44, 66 62, 66 104", 36, 28, 24), oval(70, 110, 24, 15, -10),
+    p.one(limb("-4 42, -22 100, -26 158, -14 196", 24, 21, 20), limb("-20 44, -62 60, -66 98", 36, 28, 24), foot(-68, 100, 172, False, .74)[0], limb("24 44, 66 62, 66 104", 36, 28, 24), foot(68, 106, 8, False, .74)[0],
           "-34 -30, 0 -42, 34 -30, 46 16, 36 60, 0 76, -36 60, -44 16", join=(-9, 200, 15))
     p.shape("-26 0, -8 -6, 2 10, 0 40, -14 50, -28 34")
     p.one(limb("-22 -20, -60 -30, -70 -66", 32, 26, 24), oval(-70, -72, 16, 18), join=(-20, -18, 17))
@@ -56,11 +67,15 @@ with hanging():
 
 p.note("big monkey swings on the branch")
 p.one(limb("108 396, 62 432, 30 402, 34 352, 58 344", 20, 18, 16))
-p.one(limb("126 396, 84 430, 66 484", 62, 46, 34), oval(72, 496, 36, 18, -8))
-p.one(limb("160 262, 100 196, 104 112", 50, 42, 38), oval(106, 106, 27, 24))
-p.lines("98 99, 98 111", "113 99, 113 111")
+FAR, far_toe = foot(50, 496, -4)
+p.one(limb("126 396, 64 424, 48 492", 66, 50, 34), FAR)
+p.line(far_toe)
+p.one(limb("160 262, 98 200, 100 128", 50, 42, 38), "80 130, 74 106, 78 88, 92 80, 116 80, 130 92, 130 106!, 144 104, 150 114, 142 124, 126 124, 118 134")
+p.lines("95 97, 95 78", "112 97, 112 78")
+NEAR, near_toe = foot(237, 486, 0)
 p.one("130 264, 176 244, 218 268, 216 322, 190 384, 168 424, 112 428, 86 396, 96 330",
-      limb("142 398, 214 406, 210 470", 68, 54, 40), oval(222, 484, 37, 19, 4))
+      limb("142 392, 230 386, 234 478", 76, 58, 38), NEAR)
+p.line(near_toe)
 p.shape("132 296, 162 292, 176 316, 166 356, 140 392, 112 388, 106 362, 114 326")
 with p.at(194, 204, 1.18, 2):
     monkey_head(p, mouth="open")
