@@ -19,7 +19,7 @@ p.shape(oval(60, 304, 15, 20))
 p.note("open door with the driver, step")
 p.shape("112 104!, 200 104!, 200 372!, 112 372!")
 with p.within(box(112, 104, 88, 268)):
-    with p.at(152, 172, .74):
+    with p.at(155, 174, .72, 7):
         head(p, "34", "bald", mouth="open", brows=None, r=6.4)
         p.shape("-52 -14, -50 -46, -14 -66, 34 -54, 46 -26!, 74 -14, 44 -10, 10 -20, -30 -14")
     p.one("100 310!, 104 244, 124 216, 160 214, 184 236, 186 316!, 188 380!, 90 380!")
@@ -42,16 +42,16 @@ for k, (view, hair, mouth, eyes) in enumerate(faces):
     p.put(f'<path fill="none" d="{p.path(pane)}"/>')
 
 p.note("two whole wheels")
-for x, y in ((262, 372), (552, 372)):
+for x, y in ((262, 372), (558, 372)):
     p.shape(oval(x, y, 48))
     p.shape(oval(x, y, 22))
 
 p.note("boy runs to the step")
-with p.at(446, 344, .94, flip=True):
-    palm(p, 74, 26, 20, 1, "open", 1)
-    p.shape(limb("20 0, 48 20, 76 26", 36, 32, 26, flat=True))
-    p.shape(limb("-16 96, -62 122, -108 98", 48, 38, 30, flat=True))
-    with p.at(-112, 90, 1.1, 84):
+with p.at(408, 350, .94, -8, flip=True):
+    palm(p, 85, -32, -44, 1, "open", 1)
+    p.shape(limb("20 0, 62 8, 87 -34", 36, 32, 26, flat=True))
+    p.shape(limb("-16 96, -60 122, -98 100", 48, 38, 30, flat=True))
+    with p.at(-102, 92, 1.1, 84):
         shoe(p, 0, 0)
     p.shape("-16 -20!, -54 -30, -78 -4, -72 44, -34 62!")
     p.one("-22 -14, 10 -24, 36 -8, 40 34, 28 78!, -40 74!, -42 24")
