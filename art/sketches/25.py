@@ -8,20 +8,22 @@ p = Page("25", "Two children sail past the lighthouse: the girl plays ball with 
 p.note("horizon, island with the lighthouse")
 p.line("-10 250, 640 250", 4)
 p.shape("404 316!, 440 262, 474 234, 520 224, 580 230, 640 250!, 640 330!, 404 330!")
-tower = "486 236!, 500 92!, 566 92!, 588 240!"
+tower = "486 236!, 498 122!, 570 122!, 588 240!"
 p.shape(tower)
 with p.within(tower):
-    p.line("460 166, 600 162", 4)
+    p.line("460 180, 600 176", 4)
 p.shape("524 238!, 524 214, 538 204, 552 214, 552 240!")
-p.shape("508 74!, 508 46!, 560 46!, 560 74!")
-p.shape("500 48!, 510 22, 534 10, 558 22, 568 48!")
+p.shape("514 108!, 514 58!, 570 58!, 570 108!")
+p.shape("502 60!, 514 30, 542 16, 570 30, 582 60!")
 p.note("the keeper waves")
-palm(p, 430, 40, -112, .8, "open", -1)
-p.shape(limb("462 80, 440 66, 431 38", 26, 22, 19, flat=True))
-with p.at(466, 48, .54, flip=True):
-    head(p, "34", "", mouth="open", brows=None, r=7, ear=False, nose=False)
+palm(p, 400, 58, -112, .9, "wave", -1)
+p.shape(limb("456 106, 414 96, 401 56", 30, 27, 22, flat=True))
+p.shape("434 120!, 438 98, 456 90, 480 92, 494 104, 496 120!")
+with p.at(462, 62, .72, -4, flip=True):
+    head(p, "34", "", mouth="open", brows=None, r=6.6, ear=False, nose=False)
+    p.line("25 2, 30 9, 22 12")
     p.shape("-54 -8!, -46 -50, 0 -68, 42 -46, 46 -22!, 72 -12, 40 -6, 0 -16")
-p.shape("424 74!, 586 74!, 580 96!, 434 96!")
+p.shape("416 108!, 596 108!, 588 132!, 428 132!")
 
 p.note("gull")
 with p.at(66, 112, .96, -4):
@@ -55,21 +57,20 @@ with p.at(318, 256, .84, 4):
 palm(p, 382, 338, -30, .98, "open", 1)
 sleeve(p, "296 328, 332 360, 384 338", 42, 36, 26)
 
-p.note("boy holds the tiller and looks up at the sail")
-p.shape(limb("122 332, 124 356", 32, 32))
-palm(p, 194, 338, -74, .9, "open", 1)
-p.shape(limb("144 372, 182 392, 193 338", 36, 32, 24, flat=True))
-p.shape("84 420!, 88 376, 104 352, 126 346, 152 354, 168 378, 180 420!")
-with p.at(130, 300, .84, -10):
+p.note("boy leans out over the tiller and looks up at the sail, a hand on the side of the boat")
+p.shape("74 420!, 80 380, 96 354, 118 342, 146 350, 166 376, 176 420!")
+with p.at(120, 300, .86, -14):
     head(p, "34", "tuft", mouth="open", brows=None, nose=False)
     p.line("25 3, 30 9, 22 11")
 p.tube("14 336, 62 362", 14)
 palm(p, 68, 370, -140, .95, "fist", -1)
-sleeve(p, "112 384, 94 418, 66 370", 42, 36, 26)
+sleeve(p, "106 384, 92 418, 66 370", 42, 36, 26)
 
+sleeve(p, "122 384, 170 366, 189 402", 38, 34, 25)
 p.note("tiller and hull")
 p.shape("34 382!, 230 406, 330 398, 452 330!, 428 412, 380 470!, 80 470!, 48 430")
 p.line("40 408, 230 430, 330 422, 444 364", 4)
+palm(p, 190, 404, 78, .9, "fist", 1)
 p.note("seal with the ball")
 p.shape(oval(462, 262, 34))
 p.lines("436 240, 460 264, 454 296", "460 264, 494 254", width=4)
