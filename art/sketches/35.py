@@ -30,8 +30,8 @@ p.line("120 500, 160 506, 196 500")
 p.note("tail fin")
 p.shape("486 442!, 512 412, 520 360, 560 344!, 566 384, 552 414!, 594 424, 604 464!, 556 474, 500 466!")
 
-p.note("far arm reaches for the mirror; body and tail are one sitting shape")
-bare_arm(p, "196 220, 244 268, 290 244", 34, 28, 21, turn=-36, size=.92)
+p.note("she leans on her far arm; body and tail are one sitting shape")
+p.shape(limb("196 216, 240 262, 254 348", 34, 28, 22))
 p.one(limb("182 158, 176 204", 34, 34), "136 216, 160 196, 196 196, 212 212, 216 246, 206 282, 208 312, 214 340, 128 340, 136 296")
 p.shape("140 236!, 160 250, 182 238!, 198 248, 214 232!, 212 270, 182 280, 138 272!")
 p.shape("124 322!, 168 334, 212 322!, 262 352, 330 386, 410 416, 488 440!, 500 468!, 440 480, 340 488, 230 480, 150 450, 116 390")
@@ -41,16 +41,18 @@ with p.within(tail):
 for x, y in ((166, 402), (222, 404), (194, 442), (256, 444), (312, 430), (346, 458)):
     p.line(f"{x - 18} {y - 7}, {x} {y + 9}, {x + 18} {y - 7}")
 
+bare_arm(p, "251 322, 254 346", 22, 22, turn=50, size=.95, kind="flat", thumb=-1, join=(251, 316, 10))
+
 p.note("head in profile, long hair, the comb goes through it")
 with p.at(192, 118, .98, 6):
     side_head(p, None, eyes="dot", mouth="smile", brows=None, r=5.8, ear=False)
     p.shape("40 -34!, 22 -22, 2 -4, -8 16, -6 44, -18 84, -26 130, -46 180, -96 220!, -92 200, -120 184!, -118 120, -96 40, -76 -30, -40 -62, 4 -66, 34 -52")
     p.line("-58 -14, -70 30")
     p.shape(star(-12, -36, 21))
-with p.at(102, 176, 1.1, 8):
+with p.at(96, 160, 1.1, 10):
     p.shape("-14 -46!, 4 -46!, 4 46!, -14 46!")
     p.lines("4 -36, 26 -36", "4 -18, 26 -18", "4 0, 26 0", width=5)
-bare_arm(p, "158 222, 138 290, 100 234", 38, 32, 22, turn=-116, kind="fist", thumb=-1, join=(158, 224, 23))
+bare_arm(p, "170 222, 140 268, 112 284, 98 256, 90 212", 38, 35, 32, 28, 22, turn=-96, kind="fist", thumb=-1, join=(178, 222, 19))
 
 p.note("the crab on the rock holds up the mirror")
 with p.at(376, 0):
