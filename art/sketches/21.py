@@ -6,8 +6,8 @@ from faces import head
 p = Page("21", "The fire brigade rescues a cat: it pats the fireman's helmet from its branch; the old lady waits below with a bowl of milk")
 
 p.note("house seen at its corner, a second cat at the window; hedge, street")
-p.shape("128 150!, 236 164!, 236 420!, 128 420!")
-p.shape("74 60!, 182 82!, 250 174!, 128 156!")
+p.shape("128 150!, 194 160!, 194 420!, 128 420!")
+p.shape("74 60!, 146 76!, 210 168!, 128 156!")
 p.shape("20 420!, 20 148!, 74 60!, 128 150!, 128 420!")
 p.shape(box(40, 160, 68, 76))
 with p.at(74, 214):
@@ -46,14 +46,14 @@ p.shape("206 352!, 400 358!, 400 462!, 206 482!")
 p.line("226 412, 300 408", 4)
 
 p.note("fireman climbs in profile, both feet on rungs, his near hand held out to the cat")
-p.shape(limb("292 236, 282 290, 272 330", 48, 40, 34, flat=True))
-shoe(p, 276, 338, -4, 1.06)
+p.shape(limb("282 236, 266 290, 246 330", 50, 42, 34, flat=True))
+shoe(p, 248, 338, -2, 1.06)
 palm(p, 388, 226, -12, .9, "fist", 1)
 p.shape(limb("316 160, 346 208, 388 224", 40, 34, 27, flat=True))
 p.shape(limb("302 108, 300 140", 36, 36))
-p.one("270 140, 300 130, 330 136, 342 176, 332 240, 304 258, 268 246, 256 196", limb("296 232, 356 236, 366 262", 56, 50, 42), limb("362 246, 362 276, 354 302", 46, 42, 36, flat=True))
+p.one("268 142, 300 130, 330 136, 340 176, 324 240, 294 258, 258 246, 250 194", limb("288 232, 352 236, 366 262", 56, 50, 42), limb("362 246, 362 276, 354 302", 46, 42, 36, flat=True))
 shoe(p, 356, 306, -8, 1.1)
-p.line("260 222, 290 230, 318 226", 4)
+p.line("252 222, 284 230, 312 226", 4)
 with p.at(320, 84, .8, -20):
     head(p, "34", "short", mouth="open", brows=None, r=5.2)
     p.shape("-50 -20!, -52 -54, -26 -84, 18 -84, 44 -62, 48 -26!, 0 -36")
@@ -71,9 +71,11 @@ p.shape("-20 294!, 104 300!, 104 502!, -20 480!")
 window = "-20 312!, 90 316!, 90 388!, -20 382!"
 p.shape(window)
 with p.within(window):
-    with p.at(34, 362, .68):
-        head(p, "34", "", mouth="smile", brows=None, r=5.6, ear=False, nose=False)
-        p.line("21 4, 26 9, 19 11")
+    with p.at(40, 362, .66, -14):
+        head(p, "34", "", eyes="", mouth="open", brows=None, r=5.6, ear=False, nose=False)
+        p.eye(14, -8, 5.6)
+        p.eye(36, -8, 5.2)
+        p.line("27 2, 32 7, 25 9")
         p.shape("-54 -14!, -48 -50, 0 -66, 42 -46, 54 -16!, 0 -24")
 p.put(f'<path fill="none" d="{p.path(window)}"/>')
 p.shape("52 278!, 52 256, 64 248, 88 248, 100 258, 100 280!, 76 286")
@@ -84,15 +86,16 @@ for x, y, rx, ry in ((160, 488, 33, 38), (322, 468, 29, 36)):
     p.spot(x + 2, y, 5, 6)
 
 p.note("old lady in profile, a bowl of milk in both hands")
-shoe(p, 534, 512, 0, 1.1, True)
-shoe(p, 498, 514, 0, 1.1, True)
-p.one(limb("512 330, 516 356", 38, 38), "484 362, 514 344, 546 360, 560 410, 572 500!, 520 510, 462 500!, 476 420, 474 386")
-with p.at(506, 316, .86, 12, flip=True):
-    p.shape(oval(-40, -48, 23))
-    head(p, "side", "parting", eyes="white", look=(.9, -.7), mouth="open", brows=None, r=4.4)
-p.shape("478 352!, 512 362, 550 352!, 560 372, 514 384, 474 370")
-p.shape("388 424!, 462 424!, 450 448, 426 456, 400 448")
-p.shape(oval(425, 424, 37, 9), 3)
-palm(p, 480, 440, 176, .98, "pinch", -1)
-sleeve(p, "526 396, 530 440, 474 440", 44, 42, 32)
+with p.at(516, 488, 1, 4), p.at(-516, -500):
+    shoe(p, 534, 512, 0, 1.1, True)
+    shoe(p, 498, 514, 0, 1.1, True)
+    p.one(limb("512 330, 516 356", 38, 38), "484 362, 514 344, 546 360, 560 410, 572 500!, 520 510, 462 500!, 476 420, 474 386")
+    with p.at(506, 316, .86, 12, flip=True):
+        p.shape(oval(-40, -48, 23))
+        head(p, "side", "parting", eyes="white", look=(.9, -.7), mouth="open", brows=None, r=4.4)
+    p.shape("478 352!, 512 362, 550 352!, 560 372, 514 384, 474 370")
+    p.shape("388 424!, 462 424!, 450 448, 426 456, 400 448")
+    p.shape(oval(425, 424, 37, 9), 3)
+    palm(p, 480, 440, 176, .98, "pinch", -1)
+    sleeve(p, "526 396, 530 440, 474 440", 44, 42, 32)
 p.save()
