@@ -1,7 +1,6 @@
-import math
-
 from hand import *
 from beasts import *
+from limbs import placed
 
 p = Page("15", "Two monkeys quarrel over a banana: one hangs by its tail, one holds on to the branch; the toucan already eats the other banana")
 
@@ -22,13 +21,10 @@ def monkey_head(p, eyes="dot", mouth="open", look=1):
         p.shape("2 16!, 22 19, 42 13!, 40 28, 22 32, 6 28", 3)
         p.line("4 23, 22 26, 41 21")
 
-def foot(x, y, turn=0, flip=False, size=1):
-    """A foot that grips: long toes in front, the big one stands off like a thumb; its ankle lies at (x, y), the toes at the right."""
-    c, s = math.cos(math.radians(turn)) * size, math.sin(math.radians(turn)) * size
-    m = -1 if flip else 1
-    put = lambda text: [(x + m * a * c - b * s, y + m * a * s + b * c, corner) for a, b, corner in points(text)]
-    return put("-16 -14, -24 4, -22 18, -6 23, 22 22, 46 23, 56 15, 50 5, 30 3!, 40 -5, 40 -16, 30 -19, 18 -9, 14 -14"), \
-        put("55 14, 40 14")
+def foot(x, y, turn=0, size=1):
+    """A foot that grips, the big toe off like a thumb, and the crease between its toes; its ankle lies at (x, y), the toes at the right."""
+    return [placed(text, x, y, turn, size, 1) for text in (
+        "-16 -14, -24 4, -22 18, -6 23, 22 22, 46 23, 56 15, 50 5, 30 3!, 40 -5, 40 -16, 30 -19, 18 -9, 14 -14", "55 14, 40 14")]
 
 
 p.note("leaves far away")
@@ -58,7 +54,7 @@ p.note("little monkey hangs by its tail")
 def hanging():
     return p.at(462, 268, 1, 180)
 with hanging():
-    p.one(limb("-4 42, -22 100, -26 158, -14 196", 24, 21, 20), limb("-20 44, -62 60, -66 98", 36, 28, 24), foot(-68, 100, 172, False, .74)[0], limb("24 44, 66 62, 66 104", 36, 28, 24), foot(68, 106, 8, False, .74)[0],
+    p.one(limb("-4 42, -22 100, -26 158, -14 196", 24, 21, 20), limb("-20 44, -62 60, -66 98", 36, 28, 24), foot(-68, 100, 172, .74)[0], limb("24 44, 66 62, 66 104", 36, 28, 24), foot(68, 106, 8, .74)[0],
           "-34 -30, 0 -42, 34 -30, 46 16, 36 60, 0 76, -36 60, -44 16", join=(-9, 200, 15))
     p.shape("-26 0, -8 -6, 2 10, 0 40, -14 50, -28 34")
     p.one(limb("-22 -20, -60 -30, -70 -66", 32, 26, 24), oval(-70, -72, 16, 18), join=(-20, -18, 17))
