@@ -40,7 +40,8 @@ palm(p, 180, 338, -130, 1, "point", -1)
 sleeve(p, "256 372, 214 396, 181 340", 40, 34, 25)
 p.shape("330 402!, 332 368, 346 344, 372 336, 392 360, 396 402!")
 with p.at(364, 308, .78, 10):
-    head(p, "34", "curly", mouth="open", brows=None, r=6.4, ear=False)
+    head(p, "34", "curly", mouth="open", brows=None, r=5.2, ear=False, nose=False)
+    p.line("19 6, 23 10, 18 11")
 palm(p, 432, 330, -66, .95, "wave", 1)
 sleeve(p, "366 376, 418 394, 431 330", 40, 34, 25)
 with p.at(303, 392, .84):
