@@ -3,7 +3,7 @@ from limbs import palm
 from people import head
 from sideface import side_head
 
-p = Page("47", "A strong castle: the knight rides to the drawbridge, the king waves from the tower, a goose runs ahead")
+p = Page("47", "A strong castle: the knight rides to the drawbridge, the king waves from the tower, a goose swims past the bridge")
 
 p.note("hill and path")
 p.shape("-10 290!, 130 262, 300 276, 640 210!, 640 560!, -10 560!")

@@ -62,7 +62,11 @@ with p.at(84, 324, .99):
     p.shape("-9 114!, -13 132!, 25 132!, 21 114!")
 
 train.__exit__(None, None, None)
-p.note("children beside the track, from behind, waving")
+p.note("the gate")
+p.shape("-10 448!, 250 448!, 250 476!, -10 476!")
+p.shape("550 448!, 640 448!, 640 476!, 550 476!")
+p.shape("84 436!, 116 436!, 116 560!, 84 560!")
+p.note("children behind the gate, from behind, waving")
 with p.at(336, 462, .92):
     palm(p, -94, 12, -98, 1.1, "wave", -1)
     p.shape(limb("0 40, 0 84", 36, 38, flat=True))
