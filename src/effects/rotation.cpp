@@ -5,13 +5,14 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cmath>
 #include <cstddef>
-#include <cstdint>
+#include <cstring>
 
+#include "effects/turned_rows.h"
 #include "surface/numbers.h"
 #include "surface/raster/draw.h"
-#include "surface/raster/versions.h"
 
 namespace effects {
 namespace {
@@ -35,22 +36,15 @@ Offset exactOffset(int u, int v, float angle) {
   return {nearestInt(r * std::cos(turned)), nearestInt(r * std::sin(turned))};
 }
 
-// Adding it to a float leaves the nearest whole number (ties to even) in the low bits.
-constexpr float Rounder = 0x1.8p23f;
-inline float rounded(float value) { return (value + Rounder) - Rounder; }
-inline float missed(float value, float whole) { return std::abs(value - whole); }
+// Four pixels side by side, and a square of so many.
+constexpr int Side = 4;
+using Four [[gnu::vector_size(Side * sizeof(Pixel))]] = Pixel;
 
-// Up to here every radius is below 2048: the square root of a whole number then stays far enough
-// from all halves to be rounded rightly in single precision, and places in memory are exact.
-constexpr int QuickLimit = 1447;
-
-// The target is painted in blocks: narrow ones, so that the source points of neighbouring rows lie
-// close together whatever the angle, and low ones, so that what was found is still near. At most of
-// this size.
-constexpr int BlockWidth = 256, BlockRows = 4;
-// Places are found in whole groups, also where a row ends within one.
-constexpr int Group = 16;
-static_assert(BlockWidth % Group == 0);
+Four four(const Pixel* from) {
+  Four pixels;
+  std::memcpy(&pixels, from, sizeof pixels);
+  return pixels;
+}
 
 // Whole numbers from first up to, but without, last.
 struct Span {
@@ -62,66 +56,6 @@ struct Span {
   }
   Span opposite() const { return {1 - last, 1 - first}; }
 };
-
-// Source points for target points in a row, from the source's middle: how far on in its memory, how
-// far the point on the other side of the middle, and their rows.
-struct Points {
-  std::array<std::int32_t, BlockWidth> distance, opposite;
-  std::array<float, BlockWidth> Y;  ///< whole, but left as it was found
-  Span sure, open;  ///< in the row, those within the source for sure, and those perhaps within it
-
-  void set(std::size_t at, Offset to, int width) {
-    distance[at] = to.Q * width + to.P;
-    opposite[at] = -distance[at];
-    Y[at] = static_cast<float>(to.Q);
-  }
-};
-
-// The places first..first+count-1 of a row: the points (i, fixed), and the points (fixed, i) turned
-// by a quarter more.
-struct Piece {
-  int fixed, first, count;
-  Points straight, swapped;
-  std::array<std::int32_t, BlockWidth> unsure;
-
-  int groups() const { return (count + Group - 1) / Group; }
-};
-
-// Fills a piece in single precision; true if some of its places are marked as unsure.
-WIDE_VERSIONS
-bool findQuickly(Piece& piece, float cosine, float sine, int sourceWidth) {
-  const auto f = static_cast<float>(piece.fixed), width = static_cast<float>(sourceWidth);
-  const float fc = f * cosine, fs = f * sine;
-  const float ff = std::max(f * f, 1e-30f);  // even the middle has a distance to divide by
-  const auto furthest = static_cast<float>(piece.first + piece.count);
-  // Ten roundings at most, each of 2^-24 of the distance.
-  const float sure = 0.5f - std::sqrt(furthest * furthest + ff) * 10 * 0x1p-24f;
-  std::int32_t any = 0;
-  for (int i = 0; i < piece.groups() * Group; ++i) {
-    const auto m = static_cast<float>(piece.first + i);
-    const float distance = std::sqrt(m * m + ff);
-    const float scale = rounded(distance) / distance;
-    const float mc = m * cosine, ms = m * sine;
-    const float p = (mc - fs) * scale, q = (ms + fc) * scale;
-    const float p2 = (fs + mc) * scale, q2 = (ms - fc) * scale;
-    const float P = rounded(p), Q = rounded(q), P2 = rounded(p2), Q2 = rounded(q2);
-    const float worst =
-        std::max(std::max(missed(p, P), missed(q, Q)), std::max(missed(p2, P2), missed(q2, Q2)));
-    const std::int32_t unsure = worst > sure;
-    // Whole numbers below 2^24 within the limit.
-    const auto straight = static_cast<std::int32_t>(Q * width + P),
-               swapped = static_cast<std::int32_t>(Q2 * width + P2);
-    piece.straight.distance[i] = straight;
-    piece.straight.opposite[i] = -straight;
-    piece.straight.Y[i] = Q;
-    piece.swapped.distance[i] = swapped;
-    piece.swapped.opposite[i] = -swapped;
-    piece.swapped.Y[i] = Q2;
-    piece.unsure[i] = unsure;
-    any |= unsure;
-  }
-  return any != 0;
-}
 
 // The places (i, row) whose source points, not yet rounded, lie in a box around the source's
 // middle.
@@ -166,7 +100,7 @@ class Rotation {
         tx_(half(target.width())),
         ty_(half(target.height())),
         N_(nearestInt(std::max(target.width(), target.height()) / 2.0 - 1)),
-        quick_(N_ <= QuickLimit && source.width() <= 2 * QuickLimit),
+        quick_(N_ <= TurnedLimit && source.width() <= 2 * TurnedLimit),
         within_(cosine_, sine_, std::min(sx_, source.width() - 1 - sx_) - Slack,
                 std::min(sy_, source.height() - 1 - sy_) - Slack),
         around_(cosine_, sine_, std::max(sx_, source.width() - 1 - sx_) + Slack,
@@ -178,11 +112,12 @@ class Rotation {
       return;
     }
     axis();
-    const int blocks = N_ / BlockWidth + 1, width = N_ / blocks + 1;  // of equal width
+    // In narrow columns, so that the source points of neighbouring rows lie close together whatever
+    // the angle; of equal width.
+    const int blocks = N_ / MostTurned + 1, width = N_ / blocks + 1;
     for (int left = 0; left <= N_; left += width)
-      for (int top = 0; top <= lastRow(); top += BlockRows)
-        paintBlock({left, std::min(left + width, N_ + 1)},
-                   {top, std::min(top + BlockRows, lastRow() + 1)});
+      for (int row = 0; row <= lastRow(); ++row)
+        paintRow({left, std::min(left + width, N_ + 1)}, row);
   }
 
  private:
@@ -193,7 +128,7 @@ class Rotation {
   // Beyond it both of two opposite rows lie outside the target.
   int lastRow() const { return std::min(N_, ty_); }
 
-  void copy(int fromX, int fromY, int toX, int toY) {
+  void copy(int fromX, int fromY, int toX, int toY) const {
     if (source_.contains(sx_ + fromX, sy_ + fromY) && target_.contains(tx_ + toX, ty_ + toY))
       target_.row(ty_ + toY)[tx_ + toX] = source_.at(sx_ + fromX, sy_ + fromY);
   }
@@ -211,33 +146,81 @@ class Rotation {
     }
   }
 
-  // The points of a block with u from 1 on. But for the axes the four quarters lie side by side, so
-  // each is painted along its rows; and one after the other, to touch few places of the source at a
-  // time.
-  void paintBlock(Span columns, Span rows) {
-    const auto forEach = [&](auto work) {
-      for (int row = rows.first; row < rows.last; ++row)
-        work(pieces_[static_cast<std::size_t>(row - rows.first)], row);
-    };
-    forEach([&](Piece& piece, int row) { find(piece, columns, row); });
-    forEach([&](Piece& piece, int row) { paint<1>(piece.straight, columns.first, ty_ + row); });
-    forEach([&](Piece& piece, int row) { paint<-1>(piece.straight, columns.first, ty_ - row); });
-    forEach([&](Piece& piece, int row) { paint<1>(piece.swapped, columns.first, ty_ - row); });
-    forEach([&](Piece& piece, int row) { paint<-1>(piece.swapped, columns.first, ty_ + row); });
+  // The places of a row that two opposite quarters may have, and within these the ones whose source
+  // points and targets are there for sure.
+  struct Reached {
+    Span open, sure;
+  };
+
+  Reached reached(Span open, Span sure, Span columns, int row) const {
+    open = open.within(columns);
+    if (row > std::min(ty_, target_.height() - 1 - ty_)) return {open, {open.first, open.first}};
+    return {open, sure.within({0, std::min(tx_, target_.width() - 1 - tx_) + 1}).within(open)};
   }
 
-  void find(Piece& piece, Span columns, int row) const {
-    const Span straight{std::max(columns.first, 1), columns.last};
-    const Span swapped = row > 0 ? columns : Span{columns.first, columns.first};
+  // But for the axes the four quarters lie side by side.
+  void paintRow(Span columns, int row) const {
     const Span open = around_.of(row), sure = within_.of(row);
-    piece.straight.open = open.within(straight);
-    piece.straight.sure = sure;
-    piece.swapped.open = open.opposite().within(swapped);
-    piece.swapped.sure = sure.opposite();
-    piece.fixed = row;
-    piece.first = columns.first;
-    piece.count = std::max(piece.straight.open.last, piece.swapped.open.last) - columns.first;
-    findPoints(piece);
+    const Reached straight = reached(open, sure, {std::max(columns.first, 1), columns.last}, row);
+    paintOpen<Straight>(straight, row);
+    if (row == 0) {
+      paint<Straight>(straight.sure, row);
+      return;
+    }
+    const Reached swapped = reached(open.opposite(), sure.opposite(), columns, row);
+    paintOpen<Swapped>(swapped, row);
+    const Span all = straight.sure.within(swapped.sure);
+    paint<All>(all, row);
+    paintRest<Straight>(straight.sure, all, row);
+    paintRest<Swapped>(swapped.sure, all, row);
+  }
+
+  template <Quarters quarters>
+  void paintOpen(const Reached& reached, int row) const {
+    paintSurely<quarters>({reached.open.first, reached.sure.first}, row);
+    paintSurely<quarters>({reached.sure.last, reached.open.last}, row);
+  }
+
+  template <Quarters quarters>
+  void paintRest(Span span, Span done, int row) const {
+    paint<quarters>(Span{span.first, done.first}.within(span), row);
+    paint<quarters>(Span{done.last, span.last}.within(span), row);
+  }
+
+  template <Quarters quarters>
+  void paint(Span span, int row) const {
+    const int count = span.last - span.first;
+    if (!quick_ || count < TurnedStep) {
+      paintSurely<quarters>(span, row);
+      return;
+    }
+    UnsurePlaces unsure;
+    paintQuickly<quarters>(
+        {row, static_cast<float>(cosine_), static_cast<float>(sine_), middle_, source_.width(),
+         target_.row(ty_ + row) + tx_, target_.row(ty_ - row) + tx_},
+        span.first, count, unsure);
+    for (std::size_t step = 0; step < stepsOf(count); ++step)
+      for (unsigned bits = unsure[step]; bits != 0; bits &= bits - 1)
+        paintPlace<quarters>(span.first + firstOfStep(step, count) + std::countr_zero(bits), row);
+  }
+
+  template <Quarters quarters>
+  void paintSurely(Span span, int row) const {
+    for (int i = span.first; i < span.last; ++i) paintPlace<quarters>(i, row);
+  }
+
+  template <Quarters quarters>
+  void paintPlace(int i, int row) const {
+    if constexpr ((quarters & Straight) != 0) {
+      const auto [P, Q] = offset(i, row);
+      copy(P, Q, i, row);
+      copy(-P, -Q, -i, -row);
+    }
+    if constexpr ((quarters & Swapped) != 0) {
+      const auto [P, Q] = offset(row, i);
+      copy(Q, -P, i, -row);
+      copy(-Q, P, -i, row);
+    }
   }
 
   // In double precision only the rounding of the point's own direction, to 2^-24, is left out.
@@ -250,73 +233,6 @@ class Rotation {
     const double sure = 0.5 - distance * 1e-7;
     if (std::abs(p - P) < sure && std::abs(q - Q) < sure) return {P, Q};
     return exactOffset(u, v, angle_);
-  }
-
-  void findPoints(Piece& piece) const {
-    if (!quick_)
-      piece.unsure.fill(1);
-    else if (!findQuickly(piece, static_cast<float>(cosine_), static_cast<float>(sine_),
-                          source_.width()))
-      return;
-    for (int group = 0; group < piece.groups(); ++group) {
-      std::int32_t any = 0;
-      for (int i = group * Group; i < (group + 1) * Group; ++i) any |= piece.unsure[i];
-      if (any == 0) continue;
-      for (int i = group * Group; i < (group + 1) * Group; ++i)
-        if (piece.unsure[i] != 0) findSurely(piece, i);
-    }
-  }
-
-  // The points with u = 0 are the axis's.
-  void findSurely(Piece& piece, int i) const {
-    const auto at = static_cast<std::size_t>(i);
-    const int moving = piece.first + i;
-    if (moving > 0) piece.straight.set(at, offset(moving, piece.fixed), source_.width());
-    if (piece.fixed > 0) {
-      const Offset swapped = offset(piece.fixed, moving);
-      piece.swapped.set(at, {swapped.Q, -swapped.P}, source_.width());
-    }
-  }
-
-  // Paints the columns tx + i of a row. A direction of -1 means half a turn, for target and source
-  // alike: the columns tx - i.
-  template <int direction>
-  void paint(const Points& points, int left, int row) {
-    if (row < 0 || row >= target_.height()) return;
-    const Span open = points.open.within({0, direction > 0 ? target_.width() - tx_ : tx_ + 1});
-    if (open.last <= open.first) return;
-    const Span sure = points.sure.within(open);
-    Pixel* const to = target_.row(row) + tx_ + direction * left;
-    paintWithin<direction>(points, to, {open.first - left, sure.first - left});
-    copyAll<direction>(points, to, {sure.first - left, sure.last - left});
-    paintWithin<direction>(points, to, {sure.last - left, open.last - left});
-  }
-
-  // Each has its source point.
-  template <int direction>
-  void copyAll(const Points& points, Pixel* to, Span span) const {
-    const auto& all = direction > 0 ? points.distance : points.opposite;
-    const std::int32_t* distances = all.data() + span.first;
-    const Pixel* const middle = middle_;
-    to += direction * span.first;
-    int count = span.last - span.first;
-    constexpr int Step = 8;
-    for (; count >= Step; count -= Step, to += direction * Step, distances += Step) {
-#pragma GCC unroll 8
-      for (int i = 0; i < Step; ++i) to[direction * i] = middle[std::ptrdiff_t{distances[i]}];
-    }
-    for (int i = 0; i < count; ++i) to[direction * i] = middle[std::ptrdiff_t{distances[i]}];
-  }
-
-  // Each only if its source point is there.
-  template <int direction>
-  void paintWithin(const Points& points, Pixel* to, Span span) const {
-    for (int i = span.first; i < span.last; ++i) {
-      const auto at = static_cast<std::size_t>(i);
-      const int Y = static_cast<int>(points.Y[at]), X = points.distance[at] - Y * source_.width();
-      if (source_.contains(sx_ + direction * X, sy_ + direction * Y))
-        to[direction * i] = middle_[direction * points.distance[at]];
-    }
   }
 
   // Quarter turns, but for the rounding of the angle and of each point's own direction: together
@@ -350,24 +266,42 @@ class Rotation {
                     sx_ + fromX.first, sy_ + fromY.first, W, H);
   }
 
-  // Columns of the source become rows: in strips, for which a few rows of the source are read side
-  // by side.
-  void turnByOneQuarter(int s, Span across, Span down) {
-    constexpr int Width = 32;
-    const std::ptrdiff_t step = std::ptrdiff_t{s} * source_.width(), row = target_.width();
+  // Columns of the source become rows: in squares, and these in strips, so that the rows of the
+  // source that are read side by side stay near.
+  void turnByOneQuarter(int s, Span across, Span down) const {
+    constexpr int Width = 256;
+    const auto each = [&](Span columns, int v) {
+      for (int u = columns.first; u < columns.last; ++u)
+        target_.row(ty_ + v)[tx_ + u] = source_.at(sx_ - v * s, sy_ + u * s);
+    };
     for (int left = across.first; left < across.last; left += Width) {
-      Pixel* to = target_.row(ty_ + down.first) + tx_ + left;
-      const Pixel* from = middle_ + left * step - std::ptrdiff_t{down.first} * s;
-      const int count = std::min(Width, across.last - left);
-      for (int v = down.first; v < down.last; ++v, to += row, from -= s) {
-        if (count == Width) {
-#pragma GCC unroll 32
-          for (int i = 0; i < Width; ++i) to[i] = from[i * step];
-        } else {
-          for (int i = 0; i < count; ++i) to[i] = from[i * step];
-        }
+      const int right = std::min(left + Width, across.last);
+      const int squares = left + (right - left) / Side * Side;
+      int v = down.first;
+      for (; v + Side <= down.last; v += Side) {
+        for (int u = left; u < squares; u += Side) turnSquare(s, u, v);
+        for (int i = 0; i < Side; ++i) each({squares, right}, v + i);
       }
+      for (; v < down.last; ++v) each({left, right}, v);
     }
+  }
+
+  // From the target point (u, v) on, to the right and down.
+  void turnSquare(int s, int u, int v) const {
+    const std::ptrdiff_t down = std::ptrdiff_t{s} * source_.width();
+    const Pixel* from = middle_ + u * down + (s > 0 ? 1 - Side - v : v);
+    const Four a = four(from), b = four(from + down), c = four(from + 2 * down),
+               d = four(from + 3 * down);
+    const Four ab = __builtin_shufflevector(a, b, 0, 4, 1, 5),
+               ba = __builtin_shufflevector(a, b, 2, 6, 3, 7),
+               cd = __builtin_shufflevector(c, d, 0, 4, 1, 5),
+               dc = __builtin_shufflevector(c, d, 2, 6, 3, 7);
+    const std::array<Four, Side> columns = {
+        __builtin_shufflevector(ab, cd, 0, 1, 4, 5), __builtin_shufflevector(ab, cd, 2, 3, 6, 7),
+        __builtin_shufflevector(ba, dc, 0, 1, 4, 5), __builtin_shufflevector(ba, dc, 2, 3, 6, 7)};
+    Pixel* to = target_.row(ty_ + v) + tx_ + u;
+    for (std::size_t i = 0; i < Side; ++i, to += target_.width())
+      std::memcpy(to, &columns[s > 0 ? Side - 1 - i : i], sizeof(Four));
   }
 
   const Bitmap& source_;
@@ -378,7 +312,6 @@ class Rotation {
   const int sx_, sy_, tx_, ty_, N_;
   const bool quick_;
   const Reach within_, around_;  // where the source surely is, and where it may be
-  std::array<Piece, BlockRows> pieces_;
 };
 
 }  // namespace

@@ -95,6 +95,18 @@ TEST(Rotation, ByQuartersBetweenUnlikeSizesIsTheLiteralOne) {
     }
 }
 
+TEST(Rotation, BetweenUnlikeSizesIsTheLiteralOne) {
+  Dice dice(40);
+  for (const auto& [width, height] : {std::pair{617, 537}, {40, 300}, {301, 34}, {33, 32}})
+    for (const double degrees : {1, 30, 77, 135, 224, 345}) {
+      const Bitmap sheet = noise(dice, width, height);
+      expectLiteral(sheet, 537, 617, degrees);
+      expectLiteral(sheet, 700, 60, degrees);
+      expectLiteral(sheet, 35, 700, degrees);
+      expectLiteral(sheet, 32, 33, degrees);
+    }
+}
+
 TEST(Rotation, ByAlmostAQuarterIsTheLiteralOne) {
   Dice dice(37);
   const Bitmap sheet = noise(dice, 617, 537);

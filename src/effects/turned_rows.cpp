@@ -1,0 +1,170 @@
+// Both ways to paint places find them alike; they differ in how they fetch the pixels.
+#include "effects/turned_rows.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "surface/raster/versions.h"
+
+#ifdef HAS_WIDE_VERSIONS
+#include <immintrin.h>
+#endif
+
+namespace effects {
+namespace {
+
+using raster::Pixel;
+
+// Adding it to a float leaves the nearest whole number (ties to even) in the low bits.
+constexpr float Rounder = 0x1.8p23f;
+inline float rounded(float value) { return (value + Rounder) - Rounder; }
+inline float missed(float value, float whole) { return std::abs(value - whole); }
+
+// What the places of a call share.
+struct Shared {
+  Shared(const TurnedRow& row, int first, int count)
+      : cosine(row.cosine),
+        sine(row.sine),
+        alongCosine(static_cast<float>(row.row) * row.cosine),
+        alongSine(static_cast<float>(row.row) * row.sine),
+        // Even the middle has a distance to divide by.
+        square(std::max(static_cast<float>(row.row) * static_cast<float>(row.row), 1e-30f)),
+        width(static_cast<float>(row.sourceWidth)) {
+    const auto furthest = static_cast<float>(first + count);
+    // Ten roundings at most, each of 2^-24 of the distance.
+    sure = 0.5f - std::sqrt(furthest * furthest + square) * 10 * 0x1p-24f;
+  }
+
+  float cosine, sine, alongCosine, alongSine, square, width, sure;
+};
+
+// The places of a step: how far on from the source's middle in its memory (the other one of the two
+// lies as far before it), and -1 where that is unsure.
+struct Places {
+  alignas(32) std::array<std::int32_t, TurnedStep> straight, swapped, unsure;
+};
+
+template <Quarters quarters>
+[[gnu::always_inline]] inline void find(Places& places, const Shared& row, int first) {
+  for (int i = 0; i < TurnedStep; ++i) {
+    const auto at = static_cast<std::size_t>(i);
+    const auto m = static_cast<float>(first + i);
+    const float distance = std::sqrt(m * m + row.square);
+    const float scale = rounded(distance) / distance;
+    const float mc = m * row.cosine, ms = m * row.sine;
+    float worst = 0;
+    // Whole numbers below 2^24 within the limit.
+    if constexpr ((quarters & Straight) != 0) {
+      const float p = (mc - row.alongSine) * scale, q = (ms + row.alongCosine) * scale;
+      const float P = rounded(p), Q = rounded(q);
+      places.straight[at] = static_cast<std::int32_t>(Q * row.width + P);
+      worst = std::max(missed(p, P), missed(q, Q));
+    }
+    if constexpr ((quarters & Swapped) != 0) {
+      const float p = (mc + row.alongSine) * scale, q = (ms - row.alongCosine) * scale;
+      const float P = rounded(p), Q = rounded(q);
+      places.swapped[at] = static_cast<std::int32_t>(Q * row.width + P);
+      worst = std::max(worst, std::max(missed(p, P), missed(q, Q)));
+    }
+    places.unsure[at] = worst > row.sure ? -1 : 0;
+  }
+}
+
+// The pixels of a step and of its opposites.
+void copyStep(const std::array<std::int32_t, TurnedStep>& distances, const Pixel* source,
+              Pixel* forth, Pixel* back) {
+  for (int i = 0; i < TurnedStep; ++i)
+    forth[i] = source[std::ptrdiff_t{distances[static_cast<std::size_t>(i)]}];
+  for (int i = 0; i < TurnedStep; ++i)
+    back[-i] = source[-std::ptrdiff_t{distances[static_cast<std::size_t>(i)]}];
+}
+
+// A bit for each that is -1; most often there are none.
+std::uint16_t signs(const std::array<std::int32_t, TurnedStep>& values) {
+  std::int32_t any = 0;
+  for (const std::int32_t value : values) any |= value;
+  unsigned bits = 0;
+  for (std::size_t i = 0; any != 0 && i < TurnedStep; ++i)
+    bits |= static_cast<unsigned>(values[i]) & 1u << i;
+  return static_cast<std::uint16_t>(bits);
+}
+
+template <Quarters quarters>
+void paintOneByOne(const TurnedRow& row, int first, int count, UnsurePlaces& unsure) {
+  const Shared shared(row, first, count);
+  Places places;
+  for (std::size_t step = 0; step < stepsOf(count); ++step) {
+    const int at = first + firstOfStep(step, count);
+    find<quarters>(places, shared, at);
+    if constexpr ((quarters & Straight) != 0)
+      copyStep(places.straight, row.source, row.targetBelow + at, row.targetAbove - at);
+    if constexpr ((quarters & Swapped) != 0)
+      copyStep(places.swapped, row.source, row.targetAbove + at, row.targetBelow - at);
+    unsure[step] = signs(places.unsure);
+  }
+}
+
+#ifdef HAS_WIDE_VERSIONS
+#define WITH_GATHERS [[gnu::target("avx2")]]
+
+// Eight pixels, whose distances lie one after the other, to eight places from `forth` on, and their
+// opposites to those from `back` backwards.
+[[gnu::always_inline]] WITH_GATHERS inline void gatherEight(const std::int32_t* distances,
+                                                            const Pixel* source, Pixel* forth,
+                                                            Pixel* back) {
+  const auto* from = reinterpret_cast<const int*>(source);
+  const __m256i there = _mm256_load_si256(reinterpret_cast<const __m256i*>(distances));
+  const __m256i opposite = _mm256_sub_epi32(_mm256_setzero_si256(), there);
+  const __m256i reversed = _mm256_setr_epi32(7, 6, 5, 4, 3, 2, 1, 0);
+  _mm256_storeu_si256(reinterpret_cast<__m256i*>(forth), _mm256_i32gather_epi32(from, there, 4));
+  _mm256_storeu_si256(
+      reinterpret_cast<__m256i*>(back - 7),
+      _mm256_permutevar8x32_epi32(_mm256_i32gather_epi32(from, opposite, 4), reversed));
+}
+
+WITH_GATHERS inline unsigned signsOfEight(const std::int32_t* values) {
+  return static_cast<unsigned>(
+      _mm256_movemask_ps(_mm256_load_ps(reinterpret_cast<const float*>(values))));
+}
+
+template <Quarters quarters>
+WITH_GATHERS void paintGathered(const TurnedRow& row, int first, int count, UnsurePlaces& unsure) {
+  const Shared shared(row, first, count);
+  Places places;
+  for (std::size_t step = 0; step < stepsOf(count); ++step) {
+    const int at = first + firstOfStep(step, count);
+    find<quarters>(places, shared, at);
+    for (int i = 0; i < TurnedStep; i += 8) {
+      if constexpr ((quarters & Straight) != 0)
+        gatherEight(places.straight.data() + i, row.source, row.targetBelow + at + i,
+                    row.targetAbove - at - i);
+      if constexpr ((quarters & Swapped) != 0)
+        gatherEight(places.swapped.data() + i, row.source, row.targetAbove + at + i,
+                    row.targetBelow - at - i);
+    }
+    unsure[step] = static_cast<std::uint16_t>(signsOfEight(places.unsure.data()) |
+                                              signsOfEight(places.unsure.data() + 8) << 8);
+  }
+}
+
+const bool hasGathers = __builtin_cpu_supports("avx2") != 0;
+#endif
+
+}  // namespace
+
+template <Quarters quarters>
+void paintQuickly(const TurnedRow& row, int first, int count, UnsurePlaces& unsure) {
+#ifdef WITH_GATHERS
+  if (hasGathers) {
+    paintGathered<quarters>(row, first, count, unsure);
+    return;
+  }
+#endif
+  paintOneByOne<quarters>(row, first, count, unsure);
+}
+
+template void paintQuickly<Straight>(const TurnedRow&, int, int, UnsurePlaces&);
+template void paintQuickly<Swapped>(const TurnedRow&, int, int, UnsurePlaces&);
+template void paintQuickly<All>(const TurnedRow&, int, int, UnsurePlaces&);
+
+}  // namespace effects
