@@ -38,8 +38,9 @@ constexpr int firstOfStep(std::size_t step, int count) {
   return std::min(static_cast<int>(step) * TurnedStep, count - TurnedStep);
 }
 
-/// Up to here every radius is below 2048: the square root of a whole number then stays far enough
-/// from all halves to be rounded rightly in single precision, and places in memory are exact.
+/// Rows and places up to here have radii below 2048: the square root of a whole number then stays
+/// far enough from all halves to be rounded rightly in single precision, and places in a source of
+/// at most twice that width are exact.
 constexpr int TurnedLimit = 1447;
 
 /// Paints the places first..first+count-1, from TurnedStep to MostTurned of them, as far as those
