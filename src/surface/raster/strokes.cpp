@@ -1,5 +1,6 @@
 // Chains of short lines, as a moving pointer leaves them: hundreds in one event, each a few pixels
 // long.
+#include <array>
 #include <cstdlib>
 
 #include "surface/raster/thin.h"
@@ -26,12 +27,18 @@ class ShortLines {
   /// Paints the line from a pixel to the one dx, dy away but for the last one, or one dot.
   void paint(Pixel* p, Pixel color, int dx, int dy) const {
     const std::int32_t* offset = offsets_[dy + kShort][dx + kShort];
-    for (int i = 0; i < kShort / 2; ++i) p[offset[i]] = color;
-    if (std::max(std::abs(dx), std::abs(dy)) <= kShort / 2) return;
-    for (int i = kShort / 2; i < kShort; ++i) p[offset[i]] = color;
+    paintFour(p, color, offset);
+    if (std::max(std::abs(dx), std::abs(dy)) > 4) paintFour(p, color, offset + 4);
   }
 
  private:
+  static_assert(kShort == 8);
+  // All offsets are read before the first pixel is painted, which to the compiler might be one.
+  static void paintFour(Pixel* p, Pixel color, const std::int32_t* offset) {
+    const std::array<std::int32_t, 4> at = {offset[0], offset[1], offset[2], offset[3]};
+    p[at[0]] = p[at[1]] = p[at[2]] = p[at[3]] = color;
+  }
+
   void trace(int dx, int dy) {
     const int width = std::abs(dx), height = std::abs(dy);
     const bool flat = width >= height;
