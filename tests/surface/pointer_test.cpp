@@ -77,6 +77,35 @@ TEST_F(PointerOnASurface, TwoButtonsHeldAreSummedInAMove) {
   EXPECT_EQ(heard(), "move 3@9,9 ");
 }
 
+TEST_F(PointerOnASurface, AButtonAtTheSideOfTheMouseIsNoPress) {
+  QWidget* widget = script::widgetOf(desk.picPixels);
+  QWindow* window = widget->window()->windowHandle();
+  const QPoint at = widget->mapTo(widget->window(), QPoint(10, 20));
+  pointAt(desk.picPixels, 10, 20);
+  for (const Qt::MouseButton side : {Qt::BackButton, Qt::ForwardButton}) {
+    QTest::mousePress(window, side, {}, at);
+    QTest::mouseRelease(window, side, {}, at);
+    EXPECT_EQ(heard(), "");
+    QTest::mouseDClick(window, side, {}, at);
+    EXPECT_EQ(heard(), "");
+  }
+}
+
+TEST_F(PointerOnASurface, AButtonAtTheSideOfTheMouseDoesNotEndADrag) {
+  QWidget* widget = script::widgetOf(desk.picPixels);
+  QWindow* window = widget->window()->windowHandle();
+  const QPoint at = widget->mapTo(widget->window(), QPoint(30, 40));
+  pointAt(desk.picPixels, 10, 20);
+  press(desk.picPixels, 10, 20);
+  move(desk.picPixels, 30, 40, 1);
+  QTest::mousePress(window, Qt::BackButton, {}, at);
+  QTest::mouseRelease(window, Qt::BackButton, {}, at);
+  EXPECT_EQ(heard(), "down 1@10,20 move 1@30,40 ");
+  move(desk.picPixels, 50, 60, 1);
+  release(desk.picPixels, 50, 60);
+  EXPECT_EQ(heard(), "move 1@50,60 up 1@50,60 click ");
+}
+
 TEST_F(PointerOnASurface, ShiftControlAndAltAreTold) {
   QWidget* widget = script::widgetOf(desk.picPixels);
   const struct {

@@ -17,6 +17,10 @@ namespace {
 // What a position may lose of a pixel when the toolkit counts it to and fro.
 constexpr double Lost = 1e-6;
 
+// The buttons that the model knows. A press of another one would have no number, and its release
+// would end the drag of those.
+constexpr Qt::MouseButtons KnownButtons = Qt::LeftButton | Qt::RightButton | Qt::MiddleButton;
+
 // Before a window looks for the widget beneath the pointer: it would round, and at the edge find
 // the neighbour.
 class ExactPointer : public QObject {
@@ -28,6 +32,8 @@ class ExactPointer : public QObject {
       case QEvent::MouseButtonPress:
       case QEvent::MouseButtonRelease:
       case QEvent::MouseButtonDblClick:
+        if (window && !(KnownButtons & static_cast<QMouseEvent*>(event)->button())) return true;
+        [[fallthrough]];
       case QEvent::MouseMove:
         if (window) snap(*static_cast<QMouseEvent*>(event), window->devicePixelRatio());
         break;

@@ -17,7 +17,8 @@ Mouse toMouse(const QMouseEvent& event, const DrawingSurface& surface);
 Mouse toMouse(const QMouseEvent& event);
 
 /// Lets every window hear of logical pixels only: a pointer that is anywhere on a device pixel is
-/// on the logical pixel that is shown there. Once, with the application.
+/// on the logical pixel that is shown there. And of the left, right and middle button only, not of
+/// those at a mouse's side. Once, with the application.
 void installExactPointer();
 
 /// The pixel of the widget that the pointer is on; a position may be a fraction.
