@@ -281,6 +281,23 @@ TEST_F(Looks, AWindowlessShapeIsSeenAboveTheSheetButIsNoPartOfIt) {
   EXPECT_EQ(shown(show.sheet).pixelColor(40, 45), color(0x808080));
 }
 
+TEST_F(Looks, AWindowlessShapeKeepsItsCornersHoweverThickItsBorder) {
+  show.Shape1.Visible = true;
+  for (const int width : {1, 2, 5, 8}) {
+    SCOPED_TRACE(width);
+    show.Shape1.BorderWidth = width;
+    const QImage screen = shown(show.sheet);
+    for (int y = 25; y < 65; ++y)
+      for (int x = 15; x < 65; ++x) {
+        const auto within = [&](int border) {
+          return x >= 20 + border && x < 60 - border && y >= 30 + border && y < 60 - border;
+        };
+        const Color expected = within(width) ? Green : within(0) ? Red : White;
+        ASSERT_EQ(screen.pixelColor(x, y), color(expected)) << x << ", " << y;
+      }
+  }
+}
+
 TEST_F(Looks, AnOvalTouchesTheMiddlesOfItsSidesOnly) {
   show.Oval.Visible = true;
   const QImage screen = shown(show.sheet);

@@ -9,13 +9,9 @@
 namespace surface::qt {
 namespace {
 
-// Enlarged, the middle of an odd line is that of a pixel, and its corners show.
+// Enlarged, the middle of an odd line is that of a pixel.
 void enlargePen(QPainter& painter, int width) {
-  if (painter.device()->devicePixelRatioF() <= 1) return;
-  if (width % 2) painter.translate(0.5, 0.5);
-  QPen pen = painter.pen();
-  pen.setJoinStyle(Qt::MiterJoin);
-  painter.setPen(pen);
+  if (painter.device()->devicePixelRatioF() > 1 && width % 2) painter.translate(0.5, 0.5);
 }
 
 void paintLine(QPainter& painter, const LineControl& line) {
@@ -29,7 +25,9 @@ void paintShape(QPainter& painter, const ShapeControl& shape) {
   const int pen = shape.BorderWidth;
   const QRect outer =
       toQRect(shape.pixelPlace()).adjusted(pen / 2, pen / 2, -(pen + 1) / 2, -(pen + 1) / 2);
-  painter.setPen(QPen(toQColor(shape.BorderColor), pen));
+  // A thick border keeps its corners.
+  painter.setPen(
+      QPen(toQColor(shape.BorderColor), pen, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
   enlargePen(painter, pen);
   painter.setBrush(shape.Filled ? QBrush(toQColor(shape.FillColor)) : QBrush(Qt::NoBrush));
   if (shape.Oval)
