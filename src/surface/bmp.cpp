@@ -80,21 +80,50 @@ class Reader {
 
   Picture read() {
     readHeaders();
+    readPixels();
+    return made();
+  }
+
+  /// A bitmap within an icon: without the first header, and with a mask behind its rows, which
+  /// count twice for it.
+  Picture readIcon(long long place) {
+    const long long behind = readInfo(place);
+    header_.height /= 2;
+    if (header_.bits == 32) {
+      header_.compression = OwnMasks;
+      header_.masks.alpha = Channel(Opaque);
+    }
+    header_.start = behind + (header_.bits > 8 ? 0 : 4LL * (named_ ? named_ : 1 << header_.bits));
+    check();
+    if (oldest_ || header_.runs()) badFile();
+    readPalette(behind, 4);
+    readPixels();
+    if (coverage_.empty()) readIconMask();
+    return made();
+  }
+
+ private:
+  void readPixels() {
+    if (!header_.runs()) mustReach(header_.start + header_.stride() * header_.height);
     const int width = static_cast<int>(std::min<long long>(header_.width, LargestSideKept));
     bitmap_ =
         std::make_shared<Bitmap>(width, rowsKept(header_.width, header_.height, MostPixelsKept),
                                  Opaque | header_.palette[0]);
-    if (header_.runs())
-      readRuns();
-    else
-      readRows();
+    if (header_.runs()) return readRuns();
+    readRows();
+    // Many programs leave the bytes for it unset.
+    if (std::any_of(coverage_.begin(), coverage_.end(), [](Byte c) { return c > 0; })) return;
+    header_.masks.alpha = Channel(0);
+    if (!coverage_.empty()) readRows();
+  }
+
+  Picture made() {
     const bool opaque =
         std::all_of(coverage_.begin(), coverage_.end(), [](Byte c) { return c == 255; });
     if (opaque) return Picture(std::move(bitmap_));
     return Picture(std::move(bitmap_), std::move(coverage_));
   }
 
- private:
   void take(Byte* to, std::size_t count) {
     if (std::fread(to, 1, count, file_) != count) badFile();
   }
@@ -108,17 +137,26 @@ class Reader {
   }
 
   void readHeaders() {
-    std::array<Byte, FileHeader + LongestHeader> bytes{};
-    Byte* const info = bytes.data() + FileHeader;
+    std::array<Byte, FileHeader> bytes{};
     seek(0);
-    take(bytes.data(), FileHeader + 4);
-    const std::uint32_t length = number32(info);
-    const bool oldest = length == OldestHeader;
-    if (bytes[0] != 'B' || bytes[1] != 'M' ||
-        (!oldest && (length < PlainHeader || length > LongestHeader)))
-      badFile();
-    take(info + 4, length - 4);
+    take(bytes.data(), bytes.size());
+    if (bytes[0] != 'B' || bytes[1] != 'M') badFile();
     header_.start = number32(bytes.data() + 10);
+    const long long behind = readInfo(FileHeader);
+    check();
+    readPalette(behind, oldest_ ? 3 : 4);
+  }
+
+  // Gives the place behind the second header and its masks.
+  long long readInfo(long long place) {
+    std::array<Byte, LongestHeader> bytes{};
+    Byte* const info = bytes.data();
+    seek(place);
+    take(info, 4);
+    const std::uint32_t length = number32(info);
+    const bool oldest = oldest_ = length == OldestHeader;
+    if (!oldest && (length < PlainHeader || length > LongestHeader)) badFile();
+    take(info + 4, length - 4);
     header_.width = oldest ? 0LL + number(info + 4, 2) : signed32(info + 4);
     const long long height = oldest ? 0LL + number(info + 6, 2) : signed32(info + 8);
     header_.downwards = height < 0;
@@ -130,9 +168,8 @@ class Reader {
       header_.pixelBytes = number32(info + 20);
       extra = readMasks(info, length);
     }
-    check();
-    const std::uint32_t named = oldest ? 0 : number32(info + 32);
-    readPalette(FileHeader + length + extra, oldest ? 3 : 4, named);
+    named_ = oldest ? 0 : number32(info + 32);
+    return place + length + extra;
   }
 
   // Gives how many bytes of masks stand behind the header.
@@ -168,14 +205,14 @@ class Reader {
   }
 
   // What the file names no colour for is black.
-  void readPalette(long long place, int entryBytes, std::uint32_t named) {
+  void readPalette(long long place, int entryBytes) {
     header_.palette.fill(Opaque);
     if (header_.bits > 8) {
       header_.palette[0] = 0xFFFFFFFF;
       return;
     }
     long long count = 1LL << header_.bits;
-    if (named > 0) count = std::min<long long>(count, named);
+    if (named_ > 0) count = std::min<long long>(count, named_);
     count = std::clamp<long long>((header_.start - place) / entryBytes, 0, count);
     std::array<Byte, 4 * 256> bytes{};
     seek(place);
@@ -187,20 +224,38 @@ class Reader {
 
   void readRows() {
     const long long stride = header_.stride();
-    mustReach(header_.start + stride * header_.height);
     const int rows = bitmap_->height();
     // Upside down, the upper rows come last.
     const long long first = header_.downwards ? 0 : header_.height - rows;
     const long long wanted =
         (static_cast<long long>(bitmap_->width()) * header_.bits + 31) / 32 * 4;
     std::vector<Byte> line(static_cast<std::size_t>(wanted));
-    if (header_.masks.alpha.there())
-      coverage_.resize(static_cast<std::size_t>(bitmap_->width()) * rows);
+    const bool alpha = header_.masks.alpha.there();
+    coverage_.resize(alpha ? static_cast<std::size_t>(bitmap_->width()) * rows : 0);
     seek(header_.start + stride * first);
     for (int i = 0; i < rows; ++i) {
       if (wanted < stride) seek(header_.start + stride * (first + i));
       take(line.data(), line.size());
       toPixels(line.data(), header_.downwards ? i : rows - 1 - i);
+    }
+  }
+
+  // A bit for each pixel, set where the icon lets through what is behind it.
+  void readIconMask() {
+    const long long stride = (header_.width + 31) / 32 * 4;
+    const long long start = header_.start + header_.stride() * header_.height;
+    mustReach(start + stride * header_.height);
+    const int width = bitmap_->width(), rows = bitmap_->height();
+    coverage_.assign(static_cast<std::size_t>(width) * rows, 255);
+    std::vector<Byte> line(static_cast<std::size_t>(stride));
+    for (int y = 0; y < rows; ++y) {
+      seek(start + stride * (header_.height - 1 - y));
+      take(line.data(), line.size());
+      for (int x = 0; x < width; ++x) {
+        if ((line[x / 8] >> (7 - x % 8) & 1) == 0) continue;
+        coverage_[static_cast<std::size_t>(y) * width + x] = 0;
+        bitmap_->row(y)[x] = 0xFFFFFFFF;
+      }
     }
   }
 
@@ -289,6 +344,8 @@ class Reader {
 
   std::FILE* file_;
   Header header_;
+  bool oldest_ = false;
+  std::uint32_t named_ = 0;  ///< colours, as the file has it; 0: all
   std::shared_ptr<Bitmap> bitmap_;
   std::vector<std::uint8_t> coverage_;  ///< empty without transparent parts
   // Of the runs: the next pixel, rows from below, and the bytes read.
@@ -311,6 +368,26 @@ int rowsKept(long long width, long long height, long long mostPixels) {
 }
 
 Picture readBmp(std::FILE* file) { return Reader(file).read(); }
+
+std::optional<Picture> readIcon(std::FILE* file) {
+  constexpr int ListStart = 6, ListEntry = 16;
+  constexpr std::uint32_t Png = 0x474E5089;
+  std::array<Byte, ListStart + ListEntry> bytes{};
+  const auto readAt = [&](long long place, std::size_t count) {
+    if (std::fseek(file, static_cast<long>(place), SEEK_SET) != 0 ||
+        std::fread(bytes.data(), 1, count, file) != count)
+      badFile();
+  };
+  readAt(0, bytes.size());
+  const std::uint32_t kind = number32(bytes.data());
+  const std::uint32_t place = number32(bytes.data() + ListStart + 12);
+  if ((kind != 0x10000 && kind != 0x20000) || number(bytes.data() + 4, 2) == 0 ||
+      place > FurthestStart)
+    badFile();
+  readAt(place, 4);
+  if (number32(bytes.data()) == Png) return std::nullopt;
+  return Reader(file).readIcon(place);
+}
 
 bool writeBmp(std::FILE* file, const Bitmap& bitmap) {
   constexpr std::uint32_t Start = FileHeader + PlainHeader, DotsPerMetre = 3780;

@@ -1,7 +1,9 @@
-// Windows bitmap files, read and written row by row: no picture is in memory twice.
+// Windows bitmap files, read and written row by row: no picture is in memory twice. Icons and
+// cursors hold such bitmaps.
 #pragma once
 
 #include <cstdio>
+#include <optional>
 
 #include "surface/picture.h"
 
@@ -18,8 +20,11 @@ int rowsKept(long long width, long long height, long long mostPixels);
 
 /// Reads a bitmap of any kind that is not a JPEG or PNG in disguise, from the file's start: 1, 4,
 /// 8, 16, 24 or 32 bits a pixel, plain, in runs or with masks of its own. BadFile for anything else
-/// and for a file that was cut off.
+/// and for a file that was cut off. A picture that would be transparent everywhere is opaque.
 Picture readBmp(std::FILE* file);
+
+/// Reads the first picture of an icon or a cursor, with the same errors; nothing if it is a PNG.
+std::optional<Picture> readIcon(std::FILE* file);
 
 /// Writes an uncompressed bitmap of 24 bits; false if not every byte was taken. A bitmap without
 /// pixels cannot be written.

@@ -251,9 +251,12 @@ Picture loadPicture(const std::string& path) {
   switch (first) {
     case 'B':
       return readBmp(file.get());
+    case 0x00:  // icon and cursor
+      if (auto picture = readIcon(file.get())) return *picture;
+      std::rewind(file.get());
+      return decoded(readAll(file.get()));
     case 'G':   // GIF
     case 0xFF:  // JPEG
-    case 0x00:  // icon and cursor
       return decoded(readAll(file.get()));
     case 0xD7:  // metafiles, placeable and plain
     case 0x01:
