@@ -56,9 +56,9 @@ class SmallStudioControls : public surface::Form {
 
   Slider Slider1{*this,
                  {.Left = layout.GridLeft,
-                  .Top = 3450,
+                  .Top = 3480,
                   .Width = 1575,
-                  .Height = 375,
+                  .Height = 345,
                   .Min = 1,
                   .Max = 20,
                   .Value = 1,
@@ -67,9 +67,9 @@ class SmallStudioControls : public surface::Form {
                   .Visible = layout.Visible}};
   LineControl Line2{*this,
                     {.X1 = layout.GridLeft + 1755,
-                     .Y1 = 3637.5f,
+                     .Y1 = 3652.5f,
                      .X2 = layout.GridLeft + 2265,
-                     .Y2 = 3637.5f,
+                     .Y2 = 3652.5f,
                      .Visible = layout.Visible}};
   Label lblModus{*this,
                  {.Left = layout.Messages.Left,

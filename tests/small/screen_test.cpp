@@ -26,6 +26,25 @@ TEST_F(SmallScreen, TheButtonsStandOnAGridOfThreeColumnsAndFourRows) {
   EXPECT_EQ(studio.cmdKleurplaat.Top, studio.cmdOpenbestand.Top.get());
 }
 
+TEST_F(SmallScreen, ThicknessMessagesHelpAndColourStandBelowTheButtons) {
+  struct Place {
+    const Control& control;
+    float left, top;
+  };
+  const Place places[] = {{studio.Slider1, 120, 3480}, {studio.lblModus, 120, 3960},
+                          {studio.cmdHelp, 120, 4560}, {studio.cmdEinde, 1440, 4560},
+                          {studio.Shape1, 120, 5160},  {sheet, 2640, 120}};
+  for (const auto& [control, left, top] : places) {
+    EXPECT_EQ(control.Left, left) << control.ToolTipText.get();
+    EXPECT_EQ(control.Top, top) << control.ToolTipText.get();
+  }
+  EXPECT_EQ(studio.Line2.Y1, studio.Line2.Y2.get());
+  EXPECT_EQ(studio.Line2.Y1, studio.Slider1.Top + studio.Slider1.Height / 2)
+      << "the line beside it";
+  const float thickest = 15 * static_cast<float>(studio.Slider1.Max);
+  EXPECT_LE(studio.Line2.Y1 + thickest / 2, studio.lblModus.Top);
+}
+
 TEST_F(SmallScreen, TheToolInHandLooksPressedAndNoOther) {
   CommandButton* const tools[] = {&studio.cmdTekenen,  &studio.cmdLijn,     &studio.cmdRechthoek,
                                   &studio.cmdOpvullen, &studio.cmdSpuitbus, &studio.cmdEllips,
