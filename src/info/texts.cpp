@@ -94,11 +94,11 @@ const char* const SmallStudioHelp =
     "* het kleurenpalet : klik op één van de vijfentwintig kleuren. In de kleurkiezer boven het "
     "palet zie je welke je hebt. Je mag ook met ingedrukte muisknop over de kleuren glijden. De "
     "kleur waar je loslaat, is de jouwe.\n\n"
-    "Weet je niet meer wat een knop doet ? Laat je muis er dan even op rusten : er verschijnt "
-    "een schermpje met uitleg.\n\n"
     "Kwam je uit het startmenu, dan brengt de knop Sluiten je op een nieuw, leeg blad. Sla je "
     "tekening dus op voor je de volgende keer op Help klikt. Een kleurplaat blijft gewoon "
     "staan.\n\n"
+    "Weet je niet meer wat een knop doet ? Laat je muis er dan even op rusten : er verschijnt "
+    "een schermpje met uitleg.\n\n"
     "Veel succes !";
 
 // One entry for each control of the large studio.

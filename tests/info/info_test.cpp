@@ -176,7 +176,9 @@ TEST_F(Information, SmallHelpHasAnEntryForEachControlInTheOrderOfTheScreen) {
   const std::string text = showNew<frmHelp1>().Text1.Text;
   EXPECT_TRUE(
       text.starts_with("Tekenen door middel van de basisgereedschappen : éénmaal klikken op de"));
-  EXPECT_TRUE(text.ends_with("Veel succes !"));
+  EXPECT_TRUE(
+      text.ends_with("Laat je muis er dan even op rusten : er verschijnt een schermpje met "
+                     "uitleg.\n\nVeel succes !"));
   const std::vector<std::string> wanted = {"het potlood",
                                            "de rechte lijn",
                                            "de rechthoek",
