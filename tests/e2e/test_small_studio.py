@@ -1,4 +1,6 @@
 """The small studio and the colouring pages, as a child meets them: tools, colours, saving, help, choosing a page and colouring it."""
+import os
+import shutil
 import unittest
 
 import cases
@@ -126,6 +128,28 @@ class SmallStudio(cases.Case):
         program.control("Vorige").click()
         program.control("kleurplaat 31")
         program.control("Sluiten").click()
+        program.wait_menu()
+
+    def test_without_its_file_a_page_leaves_the_studio_before_the_pages(self):
+        # The pages lie beside the program: it runs from a folder of the test's own.
+        built = os.environ.get("KRASPRET_PROGRAM", str(kraspret.BUILT))
+        os.symlink(os.path.abspath(built), self.path("kraspret"))
+        shutil.copytree(os.path.join(os.path.dirname(built), "Beeld"), self.path("Beeld"))
+        driver.stop(self.program.process)
+        program = self.program = kraspret.KrasPret(self.desktop, self.path("kraspret"))
+        self.addCleanup(driver.stop, program.process)
+        program.wait_menu()
+        program.control("Kleurplaten").click()
+        page = program.control("kleurplaat 5")
+        self.path("Beeld/05.gif").unlink()
+        page.click()
+        self.assertIn("je kunt gewoon verder", program.answer(MENU, "OK"))
+        program.wait_pixel(300, 300, WHITE)
+        self.stroke(program.sheet(), (200, 300), (300, 300))
+        program.wait_pixel(250, 300, BLACK)
+        self.assertTrue(program.shows(PAGES))
+        program.control("Einde").click()
+        program.wait_gone(SMALL)
         program.wait_menu()
 
     def test_a_page_chosen_by_its_title_is_the_page_of_the_file(self):

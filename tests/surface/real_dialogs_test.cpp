@@ -60,6 +60,31 @@ TEST_F(RealDialogs, AQuestionHasDutchButtonsAndTheirAnswers) {
   }
 }
 
+TEST_F(RealDialogs, AQuestionStandsBeforeTheWindowThatItsHandlerHasJustShown) {
+  const auto asksBefore = [](const QString& caption) {
+    whenOpen<QMessageBox>([caption](QMessageBox& box) {
+      ASSERT_TRUE(box.parentWidget());
+      EXPECT_EQ(box.parentWidget()->windowTitle(), caption);
+    });
+    MsgBox("Ga je door ?", YesNo);
+  };
+  auto& former = showNew<AboveAll>();
+  former.Caption = "eerste";
+  advance(0);
+  asksBefore("eerste");
+  auto& latter = loadNew<AboveAll>();
+  latter.Caption = "tweede";
+  dispatch([&] {
+    latter.Show();
+    asksBefore("tweede");
+  });
+  latter.Hide();
+  advance(0);
+  former.Show();
+  advance(0);
+  asksBefore("eerste");
+}
+
 TEST_F(RealDialogs, EscapeOnAQuestionIsANo) {
   whenOpen<QMessageBox>([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); });
   EXPECT_EQ(MsgBox("Ga je door ?", YesNo), No);

@@ -27,6 +27,7 @@
 #include "surface/dialogs.h"
 #include "surface/dispatch.h"
 #include "surface/form.h"
+#include "surface/qt/form_window.h"
 #include "surface/qt/images.h"
 #include "surface/qt/peers.h"
 #include "surface/qt/system.h"
@@ -148,8 +149,6 @@ class PlainIcons : public QFileIconProvider {
   const QIcon sheet_ = QApplication::style()->standardIcon(QStyle::SP_FileIcon);
 };
 
-QWidget* owner() { return QApplication::activeWindow(); }
-
 // A window that stays above all others would hide a dialog that opens in its place.
 void keepAbove(QDialog& dialog) {
   if (FormRegistry::instance().anyTopMost()) dialog.setWindowFlag(Qt::WindowStaysOnTopHint);
@@ -171,7 +170,7 @@ std::string picturesFolder() {
 
 int msgBox(const std::string& text, int buttons, const std::string& title) {
   showPending();
-  QMessageBox box(owner());
+  QMessageBox box(frontWindow());
   prepareDialog(box);
   box.setWindowTitle(titleOf(title));
   box.setTextFormat(Qt::PlainText);
@@ -203,7 +202,7 @@ static void wrapQuestion(QInputDialog& dialog) {
 std::optional<std::string> inputBox(const std::string& prompt, const std::string& title,
                                     const std::string& initial) {
   showPending();
-  QInputDialog dialog(owner());
+  QInputDialog dialog(frontWindow());
   prepareDialog(dialog);
   dialog.setWindowTitle(titleOf(title));
   dialog.setLabelText(QString::fromStdString(prompt));
@@ -219,7 +218,7 @@ std::optional<std::string> fileDialog(const FileRequest& request) {
   showPending();
   const NothingKept nothingKept;
   PlainIcons icons;  // the dialog uses it until it is gone
-  QFileDialog dialog(owner(), request.save ? "Opslaan als" : "Openen", folder());
+  QFileDialog dialog(frontWindow(), request.save ? "Opslaan als" : "Openen", folder());
   dialog.setIconProvider(&icons);
   keepAbove(dialog);
   dialog.setOption(QFileDialog::DontUseNativeDialog);
@@ -247,7 +246,7 @@ std::optional<std::string> fileDialog(const FileRequest& request) {
 std::optional<Color> colorDialog(Color initial, int flags) {
   showPending();
   const NothingKept nothingKept;
-  QColorDialog dialog(toQColor(initial), owner());
+  QColorDialog dialog(toQColor(initial), frontWindow());
   prepareDialog(dialog);
   dialog.setWindowTitle("Kleur");
   dialog.setOption(QColorDialog::DontUseNativeDialog);
@@ -271,7 +270,7 @@ constexpr auto ProgramStops = "Er is een fout opgetreden, het programma stopt:";
 }  // namespace
 
 void errorReport(const std::string& text, bool ends) {
-  QMessageBox box(owner());
+  QMessageBox box(frontWindow());
   fillReport(box,
              ends ? ProgramStops : "Er is een fout opgetreden, maar je kunt gewoon verder:", text);
   box.addButton("OK", QMessageBox::AcceptRole);
@@ -279,7 +278,7 @@ void errorReport(const std::string& text, bool ends) {
 }
 
 bool errorReportBeforeLoss(const std::string& text) {
-  QMessageBox box(owner());
+  QMessageBox box(frontWindow());
   fillReport(box, ProgramStops, text);
   const QPushButton* save = box.addButton("Tekening bewaren", QMessageBox::AcceptRole);
   box.addButton("Niet bewaren", QMessageBox::RejectRole);

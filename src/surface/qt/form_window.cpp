@@ -1,6 +1,7 @@
 // The window of a form: its controls inside, its own drawing beneath them.
 #include "surface/qt/form_window.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QMouseEvent>
@@ -12,6 +13,7 @@
 #include <vector>
 
 #include "surface/controls.h"
+#include "surface/dispatch.h"
 #include "surface/qt/peers.h"
 #include "surface/qt/pointer.h"
 #include "surface/qt/surface_widget.h"
@@ -58,6 +60,13 @@ QSize& lastMaximised() {
   return size;
 }
 
+// A window has asked for the front when it is shown, but the desktop answers only after the
+// handler. A dialog of the one that is still active would pull that one before it.
+QPointer<QWidget>& shownByHandler() {
+  static QPointer<QWidget> window;
+  return window;
+}
+
 class FormWindowPeer : public FormPeer {
  public:
   explicit FormWindowPeer(Form& form) : window_(new FormWindow(form)) {}
@@ -75,6 +84,8 @@ class FormWindowPeer : public FormPeer {
       window_->show();
     window_->raise();
     window_->activateWindow();
+    shownByHandler() = window_;
+    whenHandlersReturned([] { shownByHandler().clear(); });
   }
   void hide() override { window_->hide(); }
   void addControl(Control& control) override {
@@ -96,6 +107,11 @@ class FormWindowPeer : public FormPeer {
 
 std::unique_ptr<FormPeer> makeFormPeer(Form& form) {
   return std::make_unique<FormWindowPeer>(form);
+}
+
+QWidget* frontWindow() {
+  QWidget* shown = shownByHandler();
+  return shown && shown->isVisible() ? shown : QApplication::activeWindow();
 }
 
 raster::Rect maximisedSize() {

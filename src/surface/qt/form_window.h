@@ -58,6 +58,10 @@ class FormWindow : public QWidget {
 
 std::unique_ptr<FormPeer> makeFormPeer(Form& form);
 
+/// The window before which a dialog opens: the one that the running handler has shown last, and the
+/// active one if it has shown none. May be null.
+QWidget* frontWindow();
+
 /// The inner size of a maximised window: that of the last one, and what the screen offers before
 /// there was any.
 raster::Rect maximisedSize();

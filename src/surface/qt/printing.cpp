@@ -1,7 +1,7 @@
 // The printer through the toolkit. Its dialog is the toolkit's own, like all dialogs.
 #include "surface/qt/printing.h"
 
-#include <QApplication>
+#include <QCoreApplication>
 #include <QFileSystemModel>
 #include <QLineEdit>
 #include <QPageSize>
@@ -13,6 +13,7 @@
 #include "surface/dispatch.h"
 #include "surface/errors.h"
 #include "surface/qt/dialogs.h"
+#include "surface/qt/form_window.h"
 #include "surface/qt/images.h"
 
 namespace surface::qt {
@@ -47,7 +48,7 @@ void offerNothing(QPrintDialog& dialog) {
 
 bool printerDialog() {
   showPending();
-  QPrintDialog dialog(&printer(), QApplication::activeWindow());
+  QPrintDialog dialog(&printer(), frontWindow());
   prepareDialog(dialog);
   offerNothing(dialog);
   dialog.setWindowTitle("Afdrukken");
