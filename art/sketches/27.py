@@ -6,41 +6,41 @@ from faces import head
 p = Page("27", "The school bus waits with its door open: the driver beckons, a boy runs to the step, the dog brings the forgotten lunch box")
 
 p.note("trees behind, street")
-p.shape(scallops("-10 250, -10 130, 40 90, 90 120, 100 300, -10 300", 6, .3))
+p.shape(scallops("-10 250, -10 130, 40 90, 90 120, 100 380, -10 380", 6, .3))
 p.shape("-10 372!, 640 372!, 640 560!, -10 560!")
 
-p.note("bus from the side: roof, body, band")
-bus = "40 372!, 36 260, 52 232, 74 220!, 92 96, 128 56, 180 44!, 660 44!, 660 372!"
+p.note("bus from the side: two decks, a line under each row of windows")
+bus = "38 372!, 34 260, 36 80, 48 34, 96 20!, 660 20!, 660 372!"
 p.shape(bus)
 with p.within(bus):
-    p.line("20 270, 640 270", 4)
-p.shape(oval(60, 304, 15, 20))
+    p.line("20 146, 640 146", 4)
+    p.line("150 290, 640 290", 4)
+p.shape(oval(70, 322, 16, 20))
 
-p.note("open door with the driver, step")
-p.shape("112 104!, 200 104!, 200 372!, 112 372!")
-with p.within(box(112, 104, 88, 268)):
-    p.one("100 310!, 112 254, 138 220, 170 212, 196 236, 206 316!, 206 380!, 90 380!")
-    p.line("96 312, 140 320, 206 312", 4)
-    p.line("148 318, 146 372", 4)
-p.put(f'<path fill="none" d="{p.path(box(112, 104, 88, 268))}"/>')
-with p.at(176, 172, .76, 12):
-    head(p, "34", "bald", mouth="open", brows=None, r=5.4, nose=False)
-    p.line("18 6, 22 10, 17 11")
-    p.shape("-54 -18, -50 -50, -14 -70, 34 -60, 46 -32!, 76 -24, 46 -18, 10 -26, -30 -20")
-palm(p, 219, 250, -52, .9, "open", -1)
-sleeve(p, "158 246, 194 290, 221 248", 42, 36, 26)
-p.shape("104 366!, 208 366!, 216 390!, 96 390!")
-
-p.note("windows with faces")
-faces = (("34", "bob", "smile", "dot"), ("side", "curly", "open", "dot"), ("34", "tuft", "open", "happy"))
-for k, (view, hair, mouth, eyes) in enumerate(faces):
-    x = 302 + k * 122
-    pane = box(x - 50, 108, 100, 104)
+p.note("six windows with a face each, turned to the runner")
+FACES = ((130, 50, "34", "bob", "smile", "dot", False), (256, 50, "side", "curly", "smile", "dot", False),
+         (382, 50, "side", "short", "smile", "happy", True), (508, 56, "34", "tuft", "smile", "happy", True),
+         (306, 176, "34", "short", "smile", "dot", False), (508, 182, "34", "parting", "smile", "dot", True))
+for x, y, view, hair, mouth, eyes, flip in FACES:
+    pane = box(x - 54, 50 if y < 99 else 176, 108, 82)
     p.shape(pane)
     with p.within(pane):
-        with p.at(x - 4, 178, .8, flip=k != 1):
-            head(p, view, hair, mouth=mouth, eyes=eyes, brows=None, r=6.5)
+        with p.at(x, y + 54, .7, flip=flip):
+            head(p, view, hair, mouth=mouth, eyes=eyes, brows=None, ear=hair != "curly", r=6.6, nose=False)
     p.put(f'<path fill="none" d="{p.path(pane)}"/>')
+
+p.note("open door with the driver, step")
+p.shape("108 172!, 200 172!, 200 372!, 108 372!")
+with p.within(box(108, 172, 92, 200)):
+    p.one("100 330!, 112 288, 134 262, 162 254, 186 274, 200 320!, 200 380!, 90 380!")
+    p.line("96 338, 140 344, 206 338", 4)
+p.put(f'<path fill="none" d="{p.path(box(108, 172, 92, 200))}"/>')
+with p.at(168, 228, .7, 12):
+    head(p, "34", "bald", mouth="open", brows=None, r=6, nose=False)
+    p.shape("-54 -18, -50 -50, -14 -70, 34 -60, 46 -32!, 76 -24, 46 -18, 10 -26, -30 -20")
+palm(p, 215, 278, -52, .9, "open", -1)
+sleeve(p, "154 286, 188 320, 217 276", 40, 35, 26)
+p.shape("100 366!, 208 366!, 216 390!, 92 390!")
 
 p.note("two whole wheels")
 for x, y in ((262, 372), (558, 372)):
@@ -61,15 +61,15 @@ with p.at(408, 350, .94, -8, flip=True):
     with p.at(20, -66, .9, 10):
         head(p, "34", "short", mouth="open", brows=None, r=5, nose=False)
         p.line("19 4, 24 10, 17 12")
-    palm(p, 2, 56, -8, 1, "fist", 1)
-    sleeve(p, "0 8, -34 46, 6 54", 40, 36, 28)
+    palm(p, 28, 46, -18, 1, "fist", 1)
+    sleeve(p, "6 6, -12 42, 31 45", 36, 32, 28)
 
 p.note("dog with the lunch box")
 with p.at(124, 460, .9, flip=True):
     p.one(limb("70 -2, 96 -20, 98 -50", 20, 16, 14))
     p.one(limb("-16 22, -10 50, -24 66", 28, 20))
     p.one("-34 -34, 10 -26, 56 -20, 78 0, 70 28, 30 34, -20 34, -40 10", limb("62 16, 66 44, 96 62", 34, 22), limb("-24 18, -40 44, -58 58", 30, 20))
-    p.tube("-112 18, -104 -24, -70 -24, -62 18", 13)
+    p.line("-110 18, -104 -22, -70 -22, -64 18", 5)
     p.shape("-126 14!, -48 14!, -48 58!, -126 58!")
     p.shape(heart(-87, 36, 13))
     p.one("-34 -70, -10 -62, -6 -30, -30 -10, -50 -14, -82 -16, -92 -30, -78 -42, -60 -46")
