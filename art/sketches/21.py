@@ -19,7 +19,7 @@ p.shape("-10 430!, 200 440!, 640 484!, 640 560!, -10 560!")
 
 p.note("tree with its branch")
 p.shape("640 500!, 520 500!, 552 476, 560 420, 574 330, 576 250, 568 190!, 640 190!")
-p.shape(scallops("424 -30, 418 20, 440 60, 452 96, 500 124, 560 112, 640 122, 660 -30", 9, .34))
+p.shape(scallops("424 -30, 418 20, 440 60, 452 96, 500 124, 556 158, 640 186, 660 -30", 9, .34))
 p.shape(limb("670 206, 560 196, 470 190", 60, 40, 26))
 
 p.note("ladder from the engine to the branch")
@@ -41,8 +41,8 @@ with p.at(506, 178, 1.06):
     p.lines("-28 -60, -22 -56, -14 -61")
 
 p.note("engine: roof and side")
-p.shape("206 352!, 236 322!, 420 326!, 400 358!")
-p.shape("206 352!, 400 358!, 400 462!, 206 482!")
+p.shape("206 352!, 210 316!, 394 324!, 376 357!")
+p.shape("206 352!, 376 357!, 376 464!, 206 482!")
 p.line("226 412, 300 408", 4)
 
 p.note("fireman climbs in profile, both feet on rungs, his near hand held out to the cat")
@@ -71,7 +71,7 @@ p.shape("-20 294!, 104 300!, 104 502!, -20 480!")
 window = "-20 312!, 90 316!, 90 388!, -20 382!"
 p.shape(window)
 with p.within(window):
-    with p.at(40, 362, .66, -14):
+    with p.at(32, 362, .66, -14):
         head(p, "34", "", eyes="", mouth="open", brows=None, r=5.6, ear=False, nose=False)
         p.eye(14, -8, 5.6)
         p.eye(36, -8, 5.2)
@@ -92,7 +92,7 @@ with p.at(516, 488, 1, 4), p.at(-516, -500):
     p.one(limb("512 330, 516 356", 38, 38), "484 362, 514 344, 546 360, 560 410, 572 500!, 520 510, 462 500!, 476 420, 474 386")
     with p.at(506, 316, .86, 12, flip=True):
         p.shape(oval(-40, -48, 23))
-        head(p, "side", "parting", eyes="white", look=(.9, -.7), mouth="open", brows=None, r=4.4)
+        head(p, "side", "parting", mouth="open", brows=None, r=5.6)
     p.shape("478 352!, 512 362, 550 352!, 560 372, 514 384, 474 370")
     p.shape("388 424!, 462 424!, 450 448, 426 456, 400 448")
     p.shape(oval(425, 424, 37, 9), 3)
