@@ -7,12 +7,12 @@ p = Page("55", "Picnic seen from above: father pours, the girl bites the melon, 
 
 p.note("the wood behind")
 p.shape("-10 96, 140 84, 330 96, 640 78!, 640 560!, -10 560!")
-p.shape("404 -10!, 408 40, 398 84, 380 104!, 470 104!, 452 80, 448 40, 452 -10!")
+p.shape("520 -10!, 524 40, 514 74, 496 96!, 640 92!, 640 -10!")
 
 p.note("the cloth")
-p.shape(oval(330, 330, 316, 158))
-with p.within(oval(330, 330, 314, 156)):
-    p.lines("-20 250, 330 258, 680 250", "-20 386, 330 396, 680 386", width=4)
+p.shape(oval(390, 328, 424, 150))
+with p.within(oval(390, 328, 422, 148)):
+    p.lines("92 254, 330 258, 680 250", "92 391, 330 396, 680 386", "262 160, 236 300", "326 160, 314 330, 330 500", "420 160, 436 330, 440 500", width=4)
 
 p.note("cake on its plate, tugged off the cloth by the squirrel")
 with p.at(298, 148, 1, -8):
@@ -31,7 +31,7 @@ with p.at(182, 122, .92):
     p.one(limb("-10 26, 20 46, 46 46", 22, 16), oval(56, 48, 11), join=(-12, 14, 15))
 
 p.note("girl in profile with the melon, on a cushion")
-p.shape(oval(544, 398, 68, 24))
+p.shape(oval(536, 398, 64, 24))
 with p.at(514, 0, flip=True):
     p.one(limb("-10 352, 46 340, 84 314", 60, 52, 46), limb("84 314, 94 356, 98 400", 42, 36, 32, flat=True))
     shoe(p, 98, 402, 0, .98)
@@ -64,9 +64,7 @@ p.shape(limb("90 330, 90 392", 50, 56, flat=True))
 p.one("-10 420, 20 388, 58 368!, 90 380, 124 368!, 160 384, 184 430, 188 560, -10 560", limb("150 408, 212 408, 232 296", 56, 50, 40, flat=True))
 p.line("152 456, 158 506")
 with p.at(92, 300, .96):
-    p.shape(oval(-58, 6, 14, 17))
-    p.shape(oval(58, 6, 14, 17))
-    p.shape("-42 40!, -58 -8, -42 -46, 0 -60, 42 -46, 58 -8, 42 40!, 0 48, -42 40!")
+    p.one("-42 40!, -58 -8, -42 -46, 0 -60, 42 -46, 58 -8, 42 40!, 0 48, -42 40!", oval(-58, 6, 14, 17), oval(58, 6, 14, 17))
     p.line("-14 -30, 2 -26, 6 -38, -6 -44")
 
 p.note("ants with a cherry")
