@@ -427,6 +427,8 @@ TEST_F(TheBareForm, AReleaseOnAControlIsNotItsOwn) {
   stampDiamond();
   click(studio.cmdLijn);
   click(studio.lblModus);
+  click(studio.cmdTekenen, 2);
+  click(studio.Slider2, 4);
   drag(sheet, 40, 50, 140, 50);
   studio.Cls();
   letGo();

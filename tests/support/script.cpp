@@ -22,6 +22,7 @@ Qt::MouseButton toButton(int button) {
   return button == 2   ? Qt::RightButton
          : button == 4 ? Qt::MiddleButton
          : button == 1 ? Qt::LeftButton
+         : button == 8 ? Qt::BackButton  // at the side of some mice
                        : Qt::NoButton;
 }
 

@@ -64,6 +64,8 @@ class Box : public Form {
                       .LargeChange = 100}};
   CommandButton cmdKnop{
       *this, {.Left = 150, .Top = 3300, .Width = 1500, .Height = 450, .Caption = "Druk &hier"}};
+  CommandButton cmdUit{*this,
+                       {.Left = 150, .Top = 3900, .Width = 1500, .Height = 300, .Enabled = false}};
   Label lblTekst{*this, {.Left = 3750, .Top = 150, .Width = 1500, .Height = 450, .Caption = "tik"}};
   ImageControl imgPlaat{*this, {.Left = 3750, .Top = 750, .Width = 1500, .Height = 1500}};
   ControlArray<TextBox, 3> txtRij{
@@ -359,6 +361,8 @@ TEST_F(Controls, TheRightButtonPressesNoButtonButItsReleaseIsTold) {
   box.cmdKnop.MouseUp = [&](const Mouse& at) { order += "up" + toText(at.Button); };
   click(box.cmdKnop, 2);
   EXPECT_EQ(order, "up2");
+  click(box.cmdKnop, 8);
+  EXPECT_EQ(order, "up2") << "a side button";
 }
 
 TEST_F(Controls, AButtonLetGoBesideItselfIsNotClicked) {
@@ -391,9 +395,22 @@ TEST_F(Controls, TheKeyboardPressesAButton) {
   box.cmdKnop.SetFocus();
   QTest::keyClick(script::widgetOf(box.cmdKnop), Qt::Key_Space);
   EXPECT_EQ(fired, 1);
+  QTest::keyClick(script::widgetOf(box.cmdKnop), Qt::Key_Return);
+  EXPECT_EQ(fired, 2);
+  QTest::keyClick(script::widgetOf(box.cmdKnop), Qt::Key_Enter);
+  EXPECT_EQ(fired, 3);
   QTest::keyClick(script::widgetOf(box.cmdKnop)->window(), Qt::Key_H, Qt::AltModifier);
   QTest::qWait(150);  // the toolkit animates the press of an access key
-  EXPECT_EQ(fired, 2);
+  EXPECT_EQ(fired, 4);
+}
+
+TEST_F(Controls, EnterHeldDownPressesAButtonOnce) {
+  box.cmdKnop.Click = count;
+  for (const bool repeated : {false, true, true}) {
+    QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", repeated);
+    QCoreApplication::sendEvent(script::widgetOf(box.cmdKnop), &enter);
+  }
+  EXPECT_EQ(fired, 1);
 }
 
 TEST_F(Controls, LabelsAndImagesAreClickedWithTheLeftButtonOnly) {
@@ -408,9 +425,17 @@ TEST_F(Controls, LabelsAndImagesAreClickedWithTheLeftButtonOnly) {
   EXPECT_EQ(fired, 2);
 }
 
-TEST_F(Controls, AClickOnALabelDoesNotFallThroughToTheForm) {
+TEST_F(Controls, NoClickOnAControlFallsThroughToTheForm) {
   box.MouseUp = [this](const Mouse&) { ++fired; };
-  click(box.lblTekst);
+  const std::initializer_list<Control*> controls = {&box.lblTekst, &box.imgPlaat, &box.fraKeuze,
+                                                    &box.cmdKnop,  &box.Slider1,  &box.Apart,
+                                                    &box.chkAan,   &box.cmdUit};
+  for (Control* control : controls)
+    for (const int button : {1, 2, 4, 8}) click(*control, button);
+  EXPECT_EQ(fired, 0);
+  // Let go on the bare form, but pressed on the button.
+  press(box.cmdKnop, 5, 5, 2);
+  release(box.cmdKnop, -4, 5, 2);
   EXPECT_EQ(fired, 0);
 }
 

@@ -2,6 +2,7 @@
 #include "surface/qt/button.h"
 
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QShortcut>
@@ -108,13 +109,20 @@ void ButtonWidget::paintEvent(QPaintEvent*) {
 
 void ButtonWidget::mousePressEvent(QMouseEvent* event) {
   QPushButton::mousePressEvent(event);
-  if (control) dispatch([&] { control->MouseDown(toMouse(*event)); });
+  if (control && isKnownButton(*event)) dispatch([&] { control->MouseDown(toMouse(*event)); });
 }
 
 void ButtonWidget::mouseReleaseEvent(QMouseEvent* event) {
   const Mouse mouse = toMouse(*event);
   QPushButton::mouseReleaseEvent(event);
-  if (control) dispatch([&] { control->MouseUp(mouse); });
+  if (control && isKnownButton(*event)) dispatch([&] { control->MouseUp(mouse); });
+}
+
+// Enter presses like the space bar, whatever the desktop; a key that is held down presses once.
+void ButtonWidget::keyPressEvent(QKeyEvent* event) {
+  if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
+    return QPushButton::keyPressEvent(event);
+  if (!event->isAutoRepeat()) click();
 }
 
 }  // namespace surface::qt

@@ -136,8 +136,12 @@ void FormCanvas::resizeEvent(QResizeEvent* event) {
     dispatch([&] { window_.form->windowResized(event->size().width(), event->size().height()); });
 }
 
+// What a control does not take comes here too: a press of the right button on a push button.
+void FormCanvas::mousePressEvent(QMouseEvent* event) { pressed_ = !childAt(pixelUnder(*event)); }
+
 void FormCanvas::mouseReleaseEvent(QMouseEvent* event) {
-  if (window_.form) dispatch([&] { window_.form->MouseUp(toMouse(*event, *window_.form)); });
+  if (window_.form && pressed_ && isKnownButton(*event))
+    dispatch([&] { window_.form->MouseUp(toMouse(*event, *window_.form)); });
 }
 
 FormWindow::FormWindow(Form& owner)

@@ -20,10 +20,12 @@ class FormCanvas : public QWidget {
  protected:
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:
   FormWindow& window_;
+  bool pressed_ = false;  ///< the last press was on the bare form
 };
 
 class FormWindow : public QWidget {
