@@ -74,6 +74,20 @@ TEST_F(StudioKeys, AChoiceThatClosesItsPanelDoesNotPutTheFocusOnTheWayOut) {
   EXPECT_TRUE(isLoaded<frmTekenen2>());
 }
 
+TEST_F(StudioKeys, ASecondSpaceOnUndoOrRedoDoesNotWipeTheSheet) {
+  drag(sheet, 20, 20, 60, 20);
+  drag(sheet, 20, 40, 60, 40);
+  for (CommandButton* button : {&studio.cmdUndo, &studio.cmdRedo}) {
+    widget(*button)->setFocus();
+    key(Qt::Key_Space);
+    ASSERT_FALSE(button->Enabled);
+    EXPECT_EQ(QApplication::focusWidget(), widget(studio.cmdTekenen));
+    const raster::Bitmap drawn = canvas();
+    for (Qt::Key code : {Qt::Key_Space, Qt::Key_Return}) key(code);
+    EXPECT_TRUE(shows(sheet, drawn));
+  }
+}
+
 TEST_F(StudioKeys, CtrlZAndCtrlYGoBackAndForth) {
   click(studio.cmdLijn);
   drag(sheet, 20, 20, 60, 20);

@@ -99,6 +99,17 @@ void makePeerLate(Control& control, QWidget& window) {
   if (next != neighbours.end()) widgetOf(control)->stackUnder(widgetOf(**next));
 }
 
+namespace {
+
+// The toolkit would hand the focus of a button that goes off on to its neighbour: the next Space on
+// the undo button would then wipe the sheet.
+void focusFirstStop(const Control& control) {
+  Control* first = control.container().form().FirstStop;
+  if (first && first != &control) first->SetFocus();
+}
+
+}  // namespace
+
 void applyCommon(QWidget& widget, const Control& control, Aspect aspect,
                  const QString& spokenText) {
   switch (aspect) {
@@ -109,6 +120,7 @@ void applyCommon(QWidget& widget, const Control& control, Aspect aspect,
       widget.setVisible(control.Visible);
       break;
     case Aspect::Enabled:
+      if (!control.Enabled && widget.window()->focusWidget() == &widget) focusFirstStop(control);
       widget.setEnabled(control.Enabled);
       break;
     case Aspect::Look: {
