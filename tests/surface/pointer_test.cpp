@@ -59,17 +59,6 @@ TEST_F(PointerOnASurface, PressAndReleaseTellWhichButton) {
   }
 }
 
-TEST_F(PointerOnASurface, AButtonAtTheSideOfTheMouseDoesNothing) {
-  pointAt(desk.picPixels, 10, 20);
-  press(desk.picPixels, 10, 20, 8);
-  move(desk.picPixels, 12, 20, 8);
-  release(desk.picPixels, 12, 20, 8);
-  EXPECT_EQ(heard(), "move 0@12,20 ");
-  pressOnForm(desk, 12, 22, 8);
-  releaseOnForm(desk, 12, 22, 8);
-  EXPECT_EQ(heard(), "");
-}
-
 TEST_F(PointerOnASurface, AMoveTellsTheButtonsHeldAndNoneWithout) {
   move(desk.picPixels, 5, 6);
   EXPECT_EQ(heard(), "move 0@5,6 ");

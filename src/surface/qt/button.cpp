@@ -109,13 +109,13 @@ void ButtonWidget::paintEvent(QPaintEvent*) {
 
 void ButtonWidget::mousePressEvent(QMouseEvent* event) {
   QPushButton::mousePressEvent(event);
-  if (control && isKnownButton(*event)) dispatch([&] { control->MouseDown(toMouse(*event)); });
+  if (control) dispatch([&] { control->MouseDown(toMouse(*event)); });
 }
 
 void ButtonWidget::mouseReleaseEvent(QMouseEvent* event) {
   const Mouse mouse = toMouse(*event);
   QPushButton::mouseReleaseEvent(event);
-  if (control && isKnownButton(*event)) dispatch([&] { control->MouseUp(mouse); });
+  if (control) dispatch([&] { control->MouseUp(mouse); });
 }
 
 // Enter presses like the space bar, whatever the desktop; a key that is held down presses once.

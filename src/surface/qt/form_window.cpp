@@ -140,7 +140,7 @@ void FormCanvas::resizeEvent(QResizeEvent* event) {
 void FormCanvas::mousePressEvent(QMouseEvent* event) { pressed_ = !childAt(pixelUnder(*event)); }
 
 void FormCanvas::mouseReleaseEvent(QMouseEvent* event) {
-  if (window_.form && pressed_ && isKnownButton(*event))
+  if (window_.form && pressed_)
     dispatch([&] { window_.form->MouseUp(toMouse(*event, *window_.form)); });
 }
 

@@ -73,10 +73,6 @@ QPoint pixelUnder(const QMouseEvent& event) {
   return {static_cast<int>(Int(at.x())), static_cast<int>(Int(at.y()))};
 }
 
-bool isKnownButton(const QMouseEvent& event) {
-  return event.button() & (Qt::LeftButton | Qt::RightButton | Qt::MiddleButton);
-}
-
 Mouse toMouse(const QMouseEvent& event) {
   const bool move = event.type() == QEvent::MouseMove;
   const Qt::MouseButtons buttons = move ? event.buttons() : Qt::MouseButtons(event.button());

@@ -10,10 +10,6 @@
 
 namespace surface::qt {
 
-/// Whether a press or release is of a button that the model knows. A mouse may have more beside the
-/// left, the right and the middle one, and they do nothing.
-bool isKnownButton(const QMouseEvent& event);
-
 /// A press or release: the one button concerned; a move: all that are held. Positions in the scale
 /// of the surface.
 Mouse toMouse(const QMouseEvent& event, const DrawingSurface& surface);

@@ -47,8 +47,7 @@ void SurfaceWidget::paintEvent(QPaintEvent* event) {
 
 void SurfaceWidget::mousePressEvent(QMouseEvent* event) {
   event->accept();
-  if (control && isKnownButton(*event))
-    dispatch([&] { control->MouseDown(toMouse(*event, *control)); });
+  if (control) dispatch([&] { control->MouseDown(toMouse(*event, *control)); });
 }
 
 // The second press of a double click is a press like any other: two quick dots are two dots.
@@ -61,8 +60,7 @@ void SurfaceWidget::mouseMoveEvent(QMouseEvent* event) {
 
 void SurfaceWidget::mouseReleaseEvent(QMouseEvent* event) {
   event->accept();
-  if (control && isKnownButton(*event))
-    dispatch([&] { control->MouseUp(toMouse(*event, *control)); });
+  if (control) dispatch([&] { control->MouseUp(toMouse(*event, *control)); });
   const bool inside = rect().contains(pixelUnder(*event));
   if (control && inside && event->button() == Qt::LeftButton)
     dispatch([this] { control->Click(); });
