@@ -88,6 +88,17 @@ TEST_F(StudioKeys, ASecondSpaceOnUndoOrRedoDoesNotWipeTheSheet) {
   }
 }
 
+TEST_F(StudioKeys, AKeyBehindAStrokeDoesNotPressTheButtonBeforeItAgain) {
+  click(studio.cmdClear);
+  ASSERT_EQ(QApplication::focusWidget(), widget(studio.cmdClear));
+  drag(sheet, 20, 20, 60, 20);
+  const raster::Bitmap drawn = canvas();
+  for (Qt::Key code : {Qt::Key_Space, Qt::Key_Return}) key(code);
+  EXPECT_TRUE(shows(sheet, drawn));
+  key(Qt::Key_Tab);
+  EXPECT_EQ(QApplication::focusWidget(), widget(studio.cmdTekenen));
+}
+
 TEST_F(StudioKeys, CtrlZAndCtrlYGoBackAndForth) {
   click(studio.cmdLijn);
   drag(sheet, 20, 20, 60, 20);

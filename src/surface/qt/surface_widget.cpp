@@ -47,6 +47,10 @@ void SurfaceWidget::paintEvent(QPaintEvent* event) {
 
 void SurfaceWidget::mousePressEvent(QMouseEvent* event) {
   event->accept();
+  // The keyboard lets go of the button that was pressed last: a stray Space behind a stroke would
+  // press it again, and it may be the one that wipes the sheet.
+  QWidget* const former = window()->focusWidget();
+  if (former && focusPolicy() == Qt::NoFocus) former->clearFocus();
   if (control) dispatch([&] { control->MouseDown(toMouse(*event, *control)); });
 }
 
