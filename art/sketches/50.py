@@ -11,7 +11,8 @@ p.note("two lines of bunting")
 bunting(p, "-10 40, 100 58, 220 48, 330 -40", 2, 56)
 bunting(p, "340 -30, 410 40, 520 66, 640 40", 2, 56)
 
-p.note("princess, small and behind, in profile, throwing a streamer")
+p.note("princess, small and behind, in profile, throwing streamers")
+p.tube("422 200, 396 206, 388 228, 410 248, 408 272, 428 288", 13)
 p.tube("416 188, 386 174, 386 142, 414 126, 404 96, 366 94, 336 112, 306 104", 13)
 with p.at(506, 220, 1.1):
     palm(p, -74, -18, -124, .72, "wave", -1)
@@ -69,7 +70,7 @@ with p.at(168, 151, 1.08, 8):
     p.eye(33, -10, 5.6)
     p.lines("-8 -32, 2 -38, 12 -34", "25 -34, 33 -38, 40 -32")
     p.shape("-8 26, 4 18, 20 22, 36 16, 44 24, 36 38, 16 44, 0 38", 3)
-    p.shape(oval(20, 30, 8, 6), 3)
+    p.line("8 29, 21 33, 33 27")
     p.shape(oval(21, 8, 13, 12))
     p.shape("-42 -26!, -16 -112!, 38 -36!, 0 -26")
     p.line("-31 -56, -8 -56, 12 -68")
