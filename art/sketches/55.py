@@ -68,10 +68,10 @@ with p.at(92, 300, .96):
     p.line("-14 -30, 2 -26, 6 -38, -6 -44")
 
 p.note("ants with a cherry")
-for x, y in ((440, 512), (540, 502)):
+for x, y in ((346, 504), (430, 503), (542, 502)):
     with p.at(x, y, 1.1):
         for i in (-14, 0, 14):
-            p.line(f"{i * .5} 4, {i} 18")
+            p.line(f"{i * .5} 4, {i} 17")
         p.one(oval(-16, 0, 12, 8), oval(2, 0, 9, 7), oval(18, -4, 11, 10))
         p.line("22 -10, 32 -22")
 p.shape(oval(490, 476, 26, 23))
