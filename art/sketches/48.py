@@ -20,7 +20,10 @@ with p.at(218, 150):
     p.shape(limb("-2 44, -6 96", 34, 38, flat=True))
     p.shape("-72 180, -64 114, -30 82!, -6 96, 18 82!, 40 90, 46 200!, -72 200!")
     with p.at(6, 15, 1, 14):
-        head(p, "34", "curly", eyes="dot", mouth="open", brows=2)
+        head(p, "34", "curly", eyes="", mouth="open", brows=None, ear=False, nose=False)
+        p.eye(10, 0, 4.6)
+        p.eye(34, 0, 4.4)
+        p.line("23 -1, 28 5, 21 8")
 p.shape(heart(198, 276, 18))
 
 p.note("child at the right shows the portrait")
