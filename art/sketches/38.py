@@ -66,7 +66,10 @@ with p.at(102, 0):
         p.shape(limb("-2 -156, -4 -122", 32, 32))
         p.one("-40 -100, -28 -124, 0 -132, 30 -122, 42 -90, 46 4!, 0 16, -46 4!, -46 -60")
         with p.at(4, -192, .98, -16):
-            head(p, "34", "curly", mouth="open", brows=4, ear=False)
+            head(p, "34", "curly", eyes="", mouth="open", brows=None, ear=False, nose=False)
+            p.eye(10, 0, 4.6)
+            p.eye(34, 0, 4.4)
+            p.line("23 -1, 28 5, 21 8")
         p.shape(oval(118, -180, 19))
         palm(p, 94, -150, -50, 1.05, "pinch", 1)
         sleeve(p, "-2 -92, 52 -84, 96 -152", 48, 42, 30)

@@ -17,7 +17,10 @@ with p.at(340, 176):
     p.one("-60 88, -24 68!, 0 80, 24 68!, 56 84, 62 180!, -60 180!", limb("-36 92, -84 100, -82 22", 46, 42, 34, flat=True), limb("34 92, 72 104, 96 118", 46, 40, 34, flat=True))
     p.line("-44 128, -36 110")
     with p.at(0, 0, .98, -6, flip=True):
-        head(p, "34", "curly", eyes="happy", mouth="open", brows=None, ear=False)
+        head(p, "34", "curly", eyes="", mouth="open", brows=None, ear=False, nose=False)
+        p.eye(10, 2, 4.8, "happy")
+        p.eye(35, 2, 4.2, "happy")
+        p.line("22 8, 27 13, 20 15")
 
 p.note("drums")
 p.shape("362 296!, 368 350, 412 358, 452 344!, 458 290!")

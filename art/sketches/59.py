@@ -60,7 +60,10 @@ with p.at(462, 294, 1.06, -6, flip=True):
     palm(p, 58, 12, -34, 1.05, "wave")
     p.one(limb("-15 -24, -8 22, 58 14", 42, 42, 36, flat=True), join=(-18, -24, 25))
     with p.at(6, -116, 1.04, -12):
-        head(p, "34", "curly", mouth="open", brows=5, look=(.6, -.6))
+        head(p, "34", "curly", eyes="", mouth="open", brows=None, ear=False, nose=False)
+        p.eye(10, 0, 4.6)
+        p.eye(34, 0, 4.4)
+        p.line("23 -1, 28 5, 21 8")
         p.shape("-30 -54!, -28 -108!, 22 -60!, -4 -54")
         p.shape(oval(-28, -110, 12))
 
