@@ -9,8 +9,8 @@
 namespace surface {
 namespace {
 
-// Fifteen times all of the largest picture; about a second at most.
-constexpr std::int64_t MostWork = 250'000'000;
+// Seven times all of the largest picture; about half a second at most.
+constexpr std::int64_t MostWork = 125'000'000;
 constexpr std::int64_t WorkOfACall = 32;
 // Each rectangle that is taken out of a region makes up to four of one.
 constexpr std::size_t MostClipRects = 512;
@@ -35,8 +35,8 @@ raster::Pixel ternary(unsigned operation, raster::Pixel p, raster::Pixel s, rast
 
 }  // namespace
 
-MetafileCanvas::MetafileCanvas(int width, int height)
-    : bitmap_(std::make_shared<raster::Bitmap>(width, height, 0xFFFFFFFF)) {}
+MetafileCanvas::MetafileCanvas(int width, int height, raster::Pixel ground)
+    : bitmap_(std::make_shared<raster::Bitmap>(width, height, ground)) {}
 
 void MetafileCanvas::spend(std::int64_t work) {
   work_ += work;

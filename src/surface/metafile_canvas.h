@@ -13,7 +13,7 @@ namespace surface {
 
 class MetafileCanvas {
  public:
-  MetafileCanvas(int width, int height);
+  MetafileCanvas(int width, int height, raster::Pixel ground);
 
   raster::Rect bounds() const { return bitmap_->bounds(); }
   const raster::Bitmap& bitmap() const { return *bitmap_; }

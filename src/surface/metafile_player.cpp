@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <iterator>
 
 #include "surface/drawing.h"
 #include "surface/errors.h"
@@ -46,6 +47,22 @@ raster::Rect firstWindow(Bytes file, const MetafileHeader& header) {
   while (const auto record = walk.next())
     if (record->function() == SetWindowExt) return {0, 0, record->i16(1), record->i16(0)};
   damagedMetafile();
+}
+
+constexpr raster::Pixel WhiteGround = 0xFFFFFFFF, BlackGround = 0xFF000000;
+
+// A picture that lets through what is behind it where neither of two grounds was painted on.
+Picture throughWhereLeft(std::shared_ptr<const raster::Bitmap> onWhite,
+                         const raster::Bitmap& onBlack) {
+  std::vector<std::uint8_t> coverage;
+  coverage.reserve(static_cast<std::size_t>(onBlack.width()) * onBlack.height());
+  for (int y = 0; y < onBlack.height(); ++y)
+    std::transform(onBlack.row(y), onBlack.row(y) + onBlack.width(), onWhite->row(y),
+                   std::back_inserter(coverage), [](raster::Pixel black, raster::Pixel white) {
+                     const bool left = black == BlackGround && white == WhiteGround;
+                     return static_cast<std::uint8_t>(left ? 0 : 255);
+                   });
+  return Picture(std::move(onWhite), std::move(coverage));
 }
 
 }  // namespace
@@ -310,7 +327,7 @@ raster::Rect MetafilePlayer::toPixels(const Record& r, std::size_t bottomWord) c
   return {std::min(a.x, b.x), std::min(a.y, b.y), std::max(a.x, b.x), std::max(a.y, b.y)};
 }
 
-std::shared_ptr<raster::Bitmap> playMetafile(Bytes file, std::int64_t mostPixels) {
+Picture playMetafile(Bytes file, std::int64_t mostPixels) {
   const MetafileHeader header = readMetafileHeader(file);
   const raster::Rect window = header.bounds ? *header.bounds : firstWindow(file, header);
   if (header.bounds && header.unitsPerInch <= 0) damagedMetafile();
@@ -320,11 +337,14 @@ std::shared_ptr<raster::Bitmap> playMetafile(Bytes file, std::int64_t mostPixels
   if (!(width >= 1 && height >= 1 && width <= LargestSide && height <= LargestSide &&
         width * height <= static_cast<double>(mostPixels)))
     damagedMetafile();
-  MetafileCanvas canvas(static_cast<int>(width), static_cast<int>(height));
-  MetafilePlayer player(canvas, window, header.objects);
-  RecordWalk walk(file, header.firstRecord);
-  while (const auto record = walk.next()) player.play(*record);
-  return canvas.take();
+  const auto playedOn = [&](raster::Pixel ground) {
+    MetafileCanvas canvas(static_cast<int>(width), static_cast<int>(height), ground);
+    MetafilePlayer player(canvas, window, header.objects);
+    RecordWalk walk(file, header.firstRecord);
+    while (const auto record = walk.next()) player.play(*record);
+    return canvas.take();
+  };
+  return throughWhereLeft(playedOn(WhiteGround), *playedOn(BlackGround));
 }
 
 }  // namespace surface

@@ -37,7 +37,7 @@ class Metafile : public script::Stage {
   Metafile() { file.window(0, 0, Width, Height); }
 
   static raster::Bitmap played(const MetafileWriter::Bytes& bytes) {
-    return *playMetafile(bytes, MostPlayed);
+    return *playMetafile(bytes, MostPlayed).bitmap();
   }
   raster::Bitmap played() const { return played(file.plain()); }
   static void expectRefused(const MetafileWriter::Bytes& bytes) {
@@ -362,6 +362,22 @@ TEST_F(Metafile, OneThatDrawsWithoutEndIsRefused) {
   saves.window(0, 0, 100, 100);
   for (int i = 0; i < 1000; ++i) saves.record(0x001E, {});
   expectRefused(saves.plain());
+}
+
+TEST_F(Metafile, WhatItLeavesUnpaintedShowsTheSheet) {
+  constexpr raster::Pixel Behind = 0xFF40A0E0;
+  raster::Bitmap should(Width, Height, Behind);
+  file.brush(0, 0xFFFFFF).select(0).box(Rectangle, 10, 10, 60, 60);  // white covers, too
+  raster::box({should}, thin(Black32), {BrushStyle::Solid, White32}, 10, 10, 59, 59);
+  // A picture with a mask: first black where it is to stand, then its colours added.
+  file.bitmap(0x008800C6, 70, 20, 3, 2, 3,
+              {0xFFFFFF, 0x000000, 0xFFFFFF, 0x000000, 0x000000, 0xFFFFFF});
+  file.bitmap(0x00EE0086, 70, 20, 3, 2, 3,
+              {0x000000, 0xFF0000, 0x000000, 0x0000FF, 0x00FF00, 0x000000});
+  should.row(20)[71] = Red32;
+  should.row(21)[70] = Blue32;
+  should.row(21)[71] = Green32;
+  EXPECT_TRUE(same(*playMetafile(file.plain(), MostPlayed).over(Behind), should));
 }
 
 TEST_F(Metafile, ALoadedFileIsAPicture) {

@@ -241,7 +241,7 @@ static Picture playedMetafile(const QByteArray& bytes) {
   const std::span<const std::uint8_t> file(reinterpret_cast<const std::uint8_t*>(bytes.data()),
                                            static_cast<std::size_t>(bytes.size()));
   refuseUnless(isMetafile(file));
-  return Picture(playMetafile(file, MostPixelsPlayed));
+  return playMetafile(file, MostPixelsPlayed);
 }
 
 Picture loadPicture(const std::string& path) {
