@@ -185,6 +185,18 @@ TEST_F(Rulers, NoneTakesBothAway) {
   EXPECT_FALSE(studio.fraLineaal.Visible);
 }
 
+TEST_F(Rulers, OneClosedByItsBoxLeavesTheOtherAndCanBeCalledAgain) {
+  choose(studio.Option4);
+  closeBox(the<frmLineaalH>());
+  EXPECT_FALSE(isLoaded<frmLineaalH>());
+  EXPECT_TRUE(vertical());
+  EXPECT_TRUE(studio.shown());
+  choose(studio.Option4);  // still marked; the click counts all the same
+  ASSERT_TRUE(horizontal() && vertical());
+  EXPECT_EQ(the<frmLineaalH>().Left.get(), sheet.Left.get());
+  EXPECT_EQ(the<frmLineaalH>().Top.get(), 0);
+}
+
 TEST_F(Rulers, AChoiceMadeByCodeIsMarkedToo) {
   for (OptionButton* option :
        {&studio.Option1, &studio.Option2, &studio.Option4, &studio.Option3}) {

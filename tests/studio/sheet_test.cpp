@@ -121,6 +121,34 @@ TEST_F(Sheet, WipingBringsThePictureOfTheCommandLineBack) {
   EXPECT_EQ(again.lblModus.Caption, "hiermee zul je ALLES op je tekening WISSEN");
 }
 
+TEST_F(Sheet, ANewOneBringsThePictureOfTheCommandLineBackToo) {
+  click(studio.cmdEinde);
+  app().Command = pictureFile(40, 30, 0xFF3366FF);
+  auto& again = the<frmTekenen2>();
+  again.Show();
+  drag(again.picBlad, 10, 10, 30, 10);
+  click(again.cmdNieuw);
+  EXPECT_EQ(again.picBlad.Point({20, 10}), RGB(0x33, 0x66, 0xFF));
+  EXPECT_EQ(again.lblModus.Caption, "een NIEUW tekenblad met dezelfde grootte openen");
+  // The snapshot was taken before the picture came.
+  click(again.cmdUndo);
+  EXPECT_EQ(again.picBlad.Point({20, 10}), White);
+  click(again.cmdRedo);
+  EXPECT_EQ(again.picBlad.Point({20, 10}), RGB(0x33, 0x66, 0xFF));
+}
+
+TEST_F(Sheet, StartingOverTellsAgainThatThePictureOfTheCommandLineIsGone) {
+  app().Command = folder() + "/weg.bmp";
+  for (CommandButton* startsOver : {&studio.cmdClear, &studio.cmdNieuw}) {
+    draw();
+    answerMessage(Ok);
+    click(*startsOver);
+    EXPECT_EQ(asked().back().title, app().Command);
+    EXPECT_TRUE(shows(sheet, blank()));
+  }
+  EXPECT_EQ(studio.lblModus.Caption, "een NIEUW tekenblad met dezelfde grootte openen");
+}
+
 TEST_F(Sheet, ANewOneIsWhiteEmptyAndOfTheStandardSize) {
   ask("10", "8");
   answerColor(0x00FFFF);
