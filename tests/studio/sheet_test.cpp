@@ -30,7 +30,7 @@ class Sheet : public Studio {
   std::string pictureFile(int width, int height, QRgb color) {
     QImage picture(width, height, QImage::Format_RGB32);
     picture.fill(color);
-    const std::string path = folder() + "/plaatje.bmp";
+    std::string path = folder() + "/plaatje.bmp";
     EXPECT_TRUE(picture.save(QString::fromStdString(path)));
     return path;
   }
