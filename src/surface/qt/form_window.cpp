@@ -136,8 +136,11 @@ void FormCanvas::resizeEvent(QResizeEvent* event) {
     dispatch([&] { window_.form->windowResized(event->size().width(), event->size().height()); });
 }
 
-// What a control does not take comes here too: a press of the right button on a push button.
-void FormCanvas::mousePressEvent(QMouseEvent* event) { pressed_ = !childAt(pixelUnder(*event)); }
+// What a control has no use for comes here too, as a right button's click on a command button. It
+// is that control's all the same.
+void FormCanvas::mousePressEvent(QMouseEvent* event) {
+  if (event->buttons() == event->button()) pressed_ = !childAt(pixelUnder(*event));
+}
 
 void FormCanvas::mouseReleaseEvent(QMouseEvent* event) {
   if (window_.form && pressed_)

@@ -25,7 +25,7 @@ class FormCanvas : public QWidget {
 
  private:
   FormWindow& window_;
-  bool pressed_ = false;  ///< the last press was on the bare form
+  bool pressed_ = false;  // on the bare form, not on a control
 };
 
 class FormWindow : public QWidget {
