@@ -166,6 +166,18 @@ TEST_F(ArtLine, FollowsThePointerWithAnyButtonUntilItIsReleased) {
   EXPECT_TRUE(shows(sheet, should)) << "the chain goes on after the release";
 }
 
+TEST_F(ArtLine, GoesOnWhenItsToolIsTakenUpAgainAfterAReleaseWithAnother) {
+  click(studio.cmdArt);
+  raster::Bitmap should = canvas();
+  LiteralArtLine chain = pressed(200, 200, 15);
+  studio.cmdOpvullen.Click();
+  release(sheet, 200, 200);
+  studio.cmdArt.Click();
+  move(sheet, 230, 245);
+  chain.moveTo(should, 230, 245);
+  EXPECT_TRUE(shows(sheet, should));
+}
+
 TEST_F(ArtLine, DrawsNothingBeforeAPress) {
   click(studio.cmdArt);
   move(sheet, 100, 100);

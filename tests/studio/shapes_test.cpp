@@ -113,6 +113,27 @@ TEST_F(Shapes, TheRightButtonLeavesADotButNoPencilLine) {
   EXPECT_EQ(painted(), (Dots{{100, 100}}));
 }
 
+TEST_F(Shapes, ThePencilRestsWhileTwoButtonsAreHeld) {
+  sheet.MouseDown({.Button = 1, .X = 100, .Y = 100});
+  sheet.MouseDown({.Button = 2, .X = 100, .Y = 100});
+  sheet.MouseMove({.Button = 3, .X = 120, .Y = 100});
+  EXPECT_EQ(painted(), (Dots{{100, 100}}));
+  sheet.MouseUp({.Button = 2, .X = 120, .Y = 100});
+  // It goes on from where it was.
+  sheet.MouseMove({.Button = 1, .X = 110, .Y = 100});
+  EXPECT_EQ(painted(), rectangle(100, 100, 110, 100));
+}
+
+TEST_F(Shapes, ALineEndsWhereTheFirstOfTwoButtonsIsLetGo) {
+  click(studio.cmdLijn);
+  sheet.MouseDown({.Button = 1, .X = 100, .Y = 100});
+  sheet.MouseDown({.Button = 2, .X = 120, .Y = 100});
+  sheet.MouseUp({.Button = 1, .X = 140, .Y = 100});
+  EXPECT_EQ(painted(), rectangle(120, 100, 139, 100)) << "the second press begins it anew";
+  sheet.MouseUp({.Button = 2, .X = 160, .Y = 100});
+  EXPECT_EQ(painted(), rectangle(120, 100, 139, 100));
+}
+
 TEST_F(Shapes, ThePencilDrawsInTheColourAndWidthOfThePen) {
   sheet.ForeColor = Red;
   sheet.DrawWidth = 5;
