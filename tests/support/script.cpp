@@ -54,6 +54,28 @@ void settle() {
   QCoreApplication::processEvents();
 }
 
+// The pointer stands in the middle of a pixel: at a broken factor its corner may lie on a device
+// pixel that shows the neighbour.
+void point(const Target& target, QEvent::Type type, Qt::MouseButtons held,
+           Qt::MouseButton button = Qt::NoButton) {
+  if (!target.window) return;
+  const QPointF at = target.at + QPointF(0.5, 0.5);
+  qt_handleMouseEvent(target.window, at, target.window->mapToGlobal(at), held, button, type,
+                      Qt::NoModifier, ++QTest::lastMouseTimestamp);
+  settle();
+}
+
+void pointerDown(const Target& target, Qt::MouseButton button) {
+  QTestPrivate::qtestMouseButtons |= button;
+  point(target, QEvent::MouseButtonPress, QTestPrivate::qtestMouseButtons, button);
+}
+
+void pointerUp(const Target& target, Qt::MouseButton button) {
+  QTestPrivate::qtestMouseButtons &= ~button;
+  point(target, QEvent::MouseButtonRelease, QTestPrivate::qtestMouseButtons, button);
+  QTest::lastMouseTimestamp += QTest::mouseDoubleClickInterval;  // the next press is not its double
+}
+
 // A button that a test pressed and left down would be held in the next test too. The window that it
 // was pressed in is gone, so this one gets the release, and nobody hears of it.
 void releaseHeldButtons() {
@@ -157,26 +179,15 @@ std::optional<std::string> Stage::takeErrorReport() {
 }
 
 void Stage::press(Control& control, int x, int y, int button) {
-  const Target target = targetOf(control, x, y);
-  if (target.window) QTest::mousePress(target.window, toButton(button), {}, target.at);
-  settle();
+  pointerDown(targetOf(control, x, y), toButton(button));
 }
 
 void Stage::move(Control& control, int x, int y, int button) {
-  const Target target = targetOf(control, x, y);
-  if (!target.window) return;
-  // By the way of the platform's own moves: otherwise the toolkit would not know that the pointer
-  // is here, and would tell the move once more before the next press or release.
-  const QPointF at(target.at);
-  qt_handleMouseEvent(target.window, at, target.window->mapToGlobal(at), toButton(button),
-                      Qt::NoButton, QEvent::MouseMove, Qt::NoModifier, QTest::lastMouseTimestamp);
-  settle();
+  point(targetOf(control, x, y), QEvent::MouseMove, toButton(button));
 }
 
 void Stage::release(Control& control, int x, int y, int button) {
-  const Target target = targetOf(control, x, y);
-  if (target.window) QTest::mouseRelease(target.window, toButton(button), {}, target.at);
-  settle();
+  pointerUp(targetOf(control, x, y), toButton(button));
 }
 
 void Stage::drag(Control& control, int x1, int y1, int x2, int y2, int button) {
@@ -201,12 +212,11 @@ void Stage::type(const std::string& text) {
 }
 
 void Stage::pressOnForm(Form& form, int x, int y, int button) {
-  QTest::mousePress(windowOf(form)->windowHandle(), toButton(button), {}, {x, y});
+  pointerDown({windowOf(form)->windowHandle(), {x, y}}, toButton(button));
 }
 
 void Stage::releaseOnForm(Form& form, int x, int y, int button) {
-  QTest::mouseRelease(windowOf(form)->windowHandle(), toButton(button), {}, {x, y});
-  settle();
+  pointerUp({windowOf(form)->windowHandle(), {x, y}}, toButton(button));
 }
 
 void Stage::closeBox(Form& form) {
