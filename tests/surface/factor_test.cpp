@@ -384,11 +384,16 @@ TEST_F(AtTheFactor, AFingerDrawsAsTheMouseDoes) {
     release(desk.sheet, to.x(), to.y());
   });
   const std::unique_ptr<QPointingDevice> screen(QTest::createTouchDevice());
+  const auto touch = [&](QEventPoint::State state, const QPoint& pixel) {
+    const QPointF at = corner + pixel + QPointF(0.5, 0.5);
+    const QEventPoint finger(0, state, at, handle->mapToGlobal(at));
+    qt_handleTouchEventv2(handle, screen.get(), {finger}, Qt::NoModifier);
+  };
   const auto byFinger = heardOf(desk.sheet, [&] {
-    QTest::touchEvent(handle, screen.get()).press(0, corner + from);
-    QTest::touchEvent(handle, screen.get()).move(0, corner + middle);
-    QTest::touchEvent(handle, screen.get()).move(0, corner + to);
-    QTest::touchEvent(handle, screen.get()).release(0, corner + to);
+    touch(QEventPoint::Pressed, from);
+    touch(QEventPoint::Updated, middle);
+    touch(QEventPoint::Updated, to);
+    touch(QEventPoint::Released, to);
     QCoreApplication::processEvents();
   });
   const auto plain = [](const std::vector<Mouse>& heard) {
@@ -400,14 +405,14 @@ TEST_F(AtTheFactor, AFingerDrawsAsTheMouseDoes) {
   EXPECT_EQ(plain(byFinger), plain(byMouse));
 }
 
-TEST_F(AtTheFactor, APenBetweenTwoDevicePixelsDrawsWhereItStands) {
+TEST_F(AtTheFactor, APenHitsThePixelShownWhereverWithinADevicePixelItStands) {
   desk.sheet.MouseDown = [this](const Mouse& at) { desk.pressed = at; };
-  for (int device = 0; device < std::floor(20 * factor); ++device) {
-    const double at = device + 0.4;
-    const auto hit = pressedAt(11 * factor + at, 7 * factor + 3.4);
-    const int expected = static_cast<int>(std::floor(at / factor));
-    EXPECT_EQ(hit, QPoint(expected, static_cast<int>(std::floor(3.4 / factor)))) << device;
-  }
+  const int left = qRound(11 * factor), right = qRound(31 * factor), top = qRound(7 * factor);
+  for (int device = left; device < right; ++device)
+    for (const double within : {0.0, 0.1, 0.25, 0.4, 0.7, 0.9, 0.999})
+      EXPECT_EQ(pressedAt(device + within, top + within),
+                QPoint(pixelShownAt(device, factor) - 11, pixelShownAt(top, factor) - 7))
+          << device + within;
 }
 
 TEST_F(AtTheFactor, TheSameDragLeavesTheSameBitmap) {

@@ -3,7 +3,6 @@
 
 #include <QGuiApplication>
 #include <QWindow>
-#include <cmath>
 
 #include "surface/controls.h"
 #include "surface/numbers.h"
@@ -35,7 +34,7 @@ class ExactPointer : public QObject {
         if (window && !(KnownButtons & static_cast<QMouseEvent*>(event)->button())) return true;
         [[fallthrough]];
       case QEvent::MouseMove:
-        if (window) snap(*static_cast<QMouseEvent*>(event), window->devicePixelRatio());
+        if (window) snap(*static_cast<QMouseEvent*>(event), *window);
         break;
       default:
         break;
@@ -44,15 +43,17 @@ class ExactPointer : public QObject {
   }
 
  private:
+  // A pen or a finger stands somewhere within a device pixel: it hits what a mouse does there.
   static int snapped(double position, double factor) {
-    // A mouse stands on a whole device pixel: the quotient may be a bit less. A pen may be finer,
-    // and then stands on one logical pixel alone.
-    const double device = position * factor, whole = std::round(device);
-    if (std::abs(device - whole) > Lost) return static_cast<int>(Int(position));
-    return pixelShownAt(static_cast<int>(whole), factor);
+    return pixelShownAt(static_cast<int>(Int(position * factor + Lost)), factor);
   }
-  static void snap(QMouseEvent& event, double factor) {
-    const QPointF at(snapped(event.position().x(), factor), snapped(event.position().y(), factor));
+  static void snap(QMouseEvent& event, const QWindow& window) {
+    // The toolkit rounds a finger's place in the window, but not that on the screen.
+    const QPointF place = event.source() == Qt::MouseEventSynthesizedByQt
+                              ? window.mapFromGlobal(event.globalPosition())
+                              : event.position();
+    const double factor = window.devicePixelRatio();
+    const QPointF at(snapped(place.x(), factor), snapped(place.y(), factor));
     QMouseEvent exact(event.type(), at, at, event.globalPosition(), event.button(), event.buttons(),
                       event.modifiers(), event.pointingDevice());
     event.point(0) = exact.point(0);
