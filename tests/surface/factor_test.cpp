@@ -359,6 +359,41 @@ TEST_F(AtTheFactor, SparksAllOverAWindowAreRepaintedAsSharpAsTheWhole) {
 
 namespace {
 
+// Seven lines upright and seven across, eleven pixels apart.
+class Grid : public Form {
+ public:
+  Grid() : Form({.Width = 3000, .Height = 3000}) {
+    for (int i = 0; i < 7; ++i) {
+      const float at = 600 + 165 * static_cast<float>(i);
+      lines.push_back(std::make_unique<LineControl>(
+          *this, LineControl::Design{.X1 = at, .Y1 = 0, .X2 = at, .Y2 = 2400}));
+      lines.push_back(std::make_unique<LineControl>(
+          *this, LineControl::Design{.X1 = 0, .Y1 = at, .X2 = 2400, .Y2 = at}));
+    }
+  }
+  std::vector<std::unique_ptr<LineControl>> lines;
+};
+
+}  // namespace
+
+TEST_F(AtTheFactor, LinesAreAlikeWhereverTheyStand) {
+  Grid& grid = the<Grid>();
+  grid.Show();
+  const QImage seen = shown(grid);
+  const int beside = qRound(20 * factor);
+  for (int i = 0; i < 7; ++i) {
+    int across = 0, down = 0;
+    for (int at = qRound((37 + 11 * i) * factor); at < qRound((45 + 11 * i) * factor); ++at) {
+      across += qGray(seen.pixel(at, beside)) == 0;
+      down += qGray(seen.pixel(beside, at)) == 0;
+    }
+    EXPECT_EQ(across, qRound(factor)) << i;
+    EXPECT_EQ(down, qRound(factor)) << i;
+  }
+}
+
+namespace {
+
 // What a sheet hears of a drag.
 std::vector<Mouse> heardOf(PictureBox& sheet, const std::function<void()>& drag) {
   std::vector<Mouse> heard;

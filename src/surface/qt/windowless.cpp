@@ -2,6 +2,7 @@
 #include "surface/qt/windowless.h"
 
 #include <QPainter>
+#include <cmath>
 
 #include "surface/controls.h"
 #include "surface/qt/peers.h"
@@ -9,9 +10,15 @@
 namespace surface::qt {
 namespace {
 
-// Enlarged, the middle of an odd line is that of a pixel.
+// Enlarged, the middle of an odd line is that of a pixel. It is whole device pixels wide, so that
+// lines are alike wherever they stand.
 void enlargePen(QPainter& painter, int width) {
-  if (painter.device()->devicePixelRatioF() > 1 && width % 2) painter.translate(0.5, 0.5);
+  const double factor = painter.device()->devicePixelRatioF();
+  if (factor <= 1) return;
+  if (width % 2) painter.translate(0.5, 0.5);
+  QPen pen = painter.pen();
+  pen.setWidthF(std::round(width * factor) / factor);
+  painter.setPen(pen);
 }
 
 void paintLine(QPainter& painter, const LineControl& line) {
