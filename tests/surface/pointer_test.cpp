@@ -35,27 +35,6 @@ class Desk : public Form {
   }
 };
 
-// Controls with a window of their own; those whose right click opens a menu are left out.
-class Crowd : public Form {
- public:
-  Crowd() : Form({.Width = 6120, .Height = 6330}) {
-    MouseUp = [this](const Mouse&) { ++releases; };
-    cmdUit.Enabled = false;
-  }
-  int releases = 0;
-
-  CommandButton cmdKnop{*this, {.Left = 150, .Top = 150, .Width = 1500, .Height = 375}};
-  CommandButton cmdUit{*this, {.Left = 150, .Top = 600, .Width = 1500, .Height = 375}};
-  Label lblTekst{*this, {.Left = 150, .Top = 1050, .Width = 1500, .Height = 375}};
-  Frame fraKader{*this, {.Left = 150, .Top = 1950, .Width = 1500, .Height = 375}};
-  CheckBox chkAan{*this, {.Left = 150, .Top = 2400, .Width = 1500, .Height = 375}};
-  OptionButton optEen{*this, {.Left = 150, .Top = 2850, .Width = 1500, .Height = 375}};
-  Slider schuif{*this, {.Left = 150, .Top = 3300, .Width = 1500, .Height = 375}};
-  ImageControl imgPlaat{*this, {.Left = 150, .Top = 4200, .Width = 1500, .Height = 375}};
-  PictureBox picBlad{*this, {.Left = 150, .Top = 4650, .Width = 1500, .Height = 375}};
-  ProgressBar voortgang{*this, {.Left = 150, .Top = 5100, .Width = 1500, .Height = 375}};
-};
-
 }  // namespace
 
 class PointerOnASurface : public script::Stage {
@@ -205,25 +184,6 @@ TEST_F(PointerOnASurface, AReleaseOfTheBareFormMayBeAnywhere) {
   releaseOnForm(desk, 60, 70, 2);
   releaseOnForm(desk, 60, 70);
   EXPECT_EQ(heard(), "form 2@900,1050 form 1@900,1050 ");
-}
-
-TEST_F(PointerOnASurface, NoButtonOnAnyControlIsTheBareForms) {
-  Crowd& crowd = the<Crowd>();
-  crowd.Show();
-  int number = 0;
-  for (Control* control : crowd.controls()) {
-    ++number;
-    for (const int button : {2, 4, 1}) {
-      press(*control, 8, 8, button);
-      // The control keeps the pointer until the button is let go.
-      releaseOnForm(crowd, 395, 5, button);
-      EXPECT_EQ(crowd.releases, 0) << "control " << number << ", button " << button;
-      crowd.releases = 0;
-    }
-  }
-  pressOnForm(crowd, 395, 5);
-  releaseOnForm(crowd, 395, 5);
-  EXPECT_EQ(crowd.releases, 1);
 }
 
 TEST_F(PointerOnASurface, AHandlerMayUnloadTheFormDuringAPress) {
