@@ -38,16 +38,16 @@ struct Shared {
   float cosine, sine, alongCosine, alongSine, square, width, sure;
 };
 
-// The places of a step: how far on from the source's middle in its memory (the other one of the two
-// lies as far before it), and -1 where that is unsure.
-struct Places {
-  alignas(32) std::array<std::int32_t, TurnedStep> straight, swapped, unsure;
+// How far on from the source's middle, in its memory, each place's pixel lies (the other one of the
+// two lies as far before it), and -1 where that is unsure.
+struct Found {
+  std::int32_t *straight, *swapped, *unsure;
 };
 
+// Fills in `count` places.
 template <Quarters quarters>
-[[gnu::always_inline]] inline void find(Places& places, const Shared& row, int first) {
-  for (int i = 0; i < TurnedStep; ++i) {
-    const auto at = static_cast<std::size_t>(i);
+[[gnu::always_inline]] inline void find(Found found, const Shared& row, int first, int count) {
+  for (int i = 0; i < count; ++i) {
     const auto m = static_cast<float>(first + i);
     const float distance = std::sqrt(m * m + row.square);
     const float scale = rounded(distance) / distance;
@@ -57,51 +57,64 @@ template <Quarters quarters>
     if constexpr ((quarters & Straight) != 0) {
       const float p = (mc - row.alongSine) * scale, q = (ms + row.alongCosine) * scale;
       const float P = rounded(p), Q = rounded(q);
-      places.straight[at] = static_cast<std::int32_t>(Q * row.width + P);
+      found.straight[i] = static_cast<std::int32_t>(Q * row.width + P);
       worst = std::max(missed(p, P), missed(q, Q));
     }
     if constexpr ((quarters & Swapped) != 0) {
       const float p = (mc + row.alongSine) * scale, q = (ms - row.alongCosine) * scale;
       const float P = rounded(p), Q = rounded(q);
-      places.swapped[at] = static_cast<std::int32_t>(Q * row.width + P);
+      found.swapped[i] = static_cast<std::int32_t>(Q * row.width + P);
       worst = std::max(worst, std::max(missed(p, P), missed(q, Q)));
     }
-    places.unsure[at] = worst > row.sure ? -1 : 0;
+    found.unsure[i] = worst > row.sure ? -1 : 0;
   }
 }
 
-// The pixels of a step and of its opposites.
-void copyStep(const std::array<std::int32_t, TurnedStep>& distances, const Pixel* source,
-              Pixel* forth, Pixel* back) {
-  for (int i = 0; i < TurnedStep; ++i)
-    forth[i] = source[std::ptrdiff_t{distances[static_cast<std::size_t>(i)]}];
-  for (int i = 0; i < TurnedStep; ++i)
-    back[-i] = source[-std::ptrdiff_t{distances[static_cast<std::size_t>(i)]}];
+WIDE_VERSIONS
+void findAll(std::int32_t* straight, std::int32_t* swapped, std::int32_t* unsure, const Shared& row,
+             int first, int count) {
+  find<All>({straight, swapped, unsure}, row, first, count);
+}
+
+// One row of pixels, forth or back. By eights, whose distances are read one by one all the same.
+template <int direction>
+void copyAll(const std::int32_t* distances, const Pixel* source, Pixel* to, int count) {
+  constexpr int Some = 8;
+  for (; count >= Some; count -= Some, to += direction * Some, distances += Some) {
+#pragma GCC unroll 8
+    for (int i = 0; i < Some; ++i)
+      to[direction * i] = source[direction * std::ptrdiff_t{distances[i]}];
+  }
+  for (int i = 0; i < count; ++i)
+    to[direction * i] = source[direction * std::ptrdiff_t{distances[i]}];
 }
 
 // A bit for each that is -1; most often there are none.
-std::uint16_t signs(const std::array<std::int32_t, TurnedStep>& values) {
+std::uint16_t signs(const std::int32_t* values) {
   std::int32_t any = 0;
-  for (const std::int32_t value : values) any |= value;
+  for (int i = 0; i < TurnedStep; ++i) any |= values[i];
   unsigned bits = 0;
-  for (std::size_t i = 0; any != 0 && i < TurnedStep; ++i)
+  for (int i = 0; any != 0 && i < TurnedStep; ++i)
     bits |= static_cast<unsigned>(values[i]) & 1u << i;
   return static_cast<std::uint16_t>(bits);
 }
 
+// All places first, then the pixels of a quarter after the other.
 template <Quarters quarters>
 void paintOneByOne(const TurnedRow& row, int first, int count, UnsurePlaces& unsure) {
   const Shared shared(row, first, count);
-  Places places;
-  for (std::size_t step = 0; step < stepsOf(count); ++step) {
-    const int at = first + firstOfStep(step, count);
-    find<quarters>(places, shared, at);
-    if constexpr ((quarters & Straight) != 0)
-      copyStep(places.straight, row.source, row.targetBelow + at, row.targetAbove - at);
-    if constexpr ((quarters & Swapped) != 0)
-      copyStep(places.swapped, row.source, row.targetAbove + at, row.targetBelow - at);
-    unsure[step] = signs(places.unsure);
+  std::array<std::int32_t, MostTurned> straight, swapped, doubts;
+  findAll(straight.data(), swapped.data(), doubts.data(), shared, first, count);
+  if constexpr ((quarters & Straight) != 0) {
+    copyAll<1>(straight.data(), row.source, row.targetBelow + first, count);
+    copyAll<-1>(straight.data(), row.source, row.targetAbove - first, count);
   }
+  if constexpr ((quarters & Swapped) != 0) {
+    copyAll<1>(swapped.data(), row.source, row.targetAbove + first, count);
+    copyAll<-1>(swapped.data(), row.source, row.targetBelow - first, count);
+  }
+  for (std::size_t step = 0; step < stepsOf(count); ++step)
+    unsure[step] = signs(doubts.data() + firstOfStep(step, count));
 }
 
 #ifdef HAS_WIDE_VERSIONS
@@ -127,27 +140,30 @@ WITH_GATHERS inline unsigned signsOfEight(const std::int32_t* values) {
       _mm256_movemask_ps(_mm256_load_ps(reinterpret_cast<const float*>(values))));
 }
 
+// Places and pixels of a step at once.
 template <Quarters quarters>
 WITH_GATHERS void paintGathered(const TurnedRow& row, int first, int count, UnsurePlaces& unsure) {
   const Shared shared(row, first, count);
-  Places places;
+  alignas(32) std::array<std::int32_t, TurnedStep> straight, swapped, doubts;
   for (std::size_t step = 0; step < stepsOf(count); ++step) {
     const int at = first + firstOfStep(step, count);
-    find<quarters>(places, shared, at);
+    find<quarters>({straight.data(), swapped.data(), doubts.data()}, shared, at, TurnedStep);
     for (int i = 0; i < TurnedStep; i += 8) {
       if constexpr ((quarters & Straight) != 0)
-        gatherEight(places.straight.data() + i, row.source, row.targetBelow + at + i,
+        gatherEight(straight.data() + i, row.source, row.targetBelow + at + i,
                     row.targetAbove - at - i);
       if constexpr ((quarters & Swapped) != 0)
-        gatherEight(places.swapped.data() + i, row.source, row.targetAbove + at + i,
+        gatherEight(swapped.data() + i, row.source, row.targetAbove + at + i,
                     row.targetBelow - at - i);
     }
-    unsure[step] = static_cast<std::uint16_t>(signsOfEight(places.unsure.data()) |
-                                              signsOfEight(places.unsure.data() + 8) << 8);
+    unsure[step] = static_cast<std::uint16_t>(signsOfEight(doubts.data()) |
+                                              signsOfEight(doubts.data() + 8) << 8);
   }
 }
 
-const bool hasGathers = __builtin_cpu_supports("avx2") != 0;
+// Older processors gather slowly, some of them ever since it was found to leak other programs'
+// data. Those that have these instructions too do it well.
+const bool gathersFast = __builtin_cpu_supports("avxvnni") != 0;
 #endif
 
 }  // namespace
@@ -155,7 +171,7 @@ const bool hasGathers = __builtin_cpu_supports("avx2") != 0;
 template <Quarters quarters>
 void paintQuickly(const TurnedRow& row, int first, int count, UnsurePlaces& unsure) {
 #ifdef WITH_GATHERS
-  if (hasGathers) {
+  if (gathersFast) {
     paintGathered<quarters>(row, first, count, unsure);
     return;
   }
