@@ -13,30 +13,31 @@ using namespace picture_files;
 
 namespace {
 
-constexpr int Side = 12;
+constexpr int IconSide = 12;
 constexpr raster::Pixel Behind = 0xFF2080C0;
 
 using Shade = std::function<int(int x, int y)>;
 
-Rgb colorful(int x, int y) { return static_cast<Rgb>(x * 20 << 16 | y * 20 << 8 | (x ^ y) * 16); }
+Rgb iconColor(int x, int y) { return static_cast<Rgb>(x * 20 << 16 | y * 20 << 8 | (x ^ y) * 16); }
 bool hole(int x, int y) { return x + y < 9; }
 
 // The rows of a bitmap without its headers, bottom row first.
 Bytes rows(int bits, const Pixels& pixels, const Shade& fourth) {
-  Bytes bytes = trueColorBmp(Side, Side, bits, pixels).substr(54);
+  Bytes bytes = trueColorBmp(IconSide, IconSide, bits, pixels).substr(54);
   if (bits == 32)
     for (std::size_t pixel = 0; pixel < bytes.size() / 4; ++pixel) {
       const int number = static_cast<int>(pixel);
-      bytes[4 * pixel + 3] = static_cast<char>(fourth(number % Side, Side - 1 - number / Side));
+      bytes[4 * pixel + 3] =
+          static_cast<char>(fourth(number % IconSide, IconSide - 1 - number / IconSide));
     }
   return bytes;
 }
 
 Bytes maskRows() {
   Bytes bytes;
-  for (int y = Side - 1; y >= 0; --y) {
+  for (int y = IconSide - 1; y >= 0; --y) {
     unsigned row = 0;
-    for (int x = 0; x < Side; ++x) row |= hole(x, y) ? 1u << (15 - x) : 0;
+    for (int x = 0; x < IconSide; ++x) row |= hole(x, y) ? 1u << (15 - x) : 0;
     bytes += {static_cast<char>(row >> 8), static_cast<char>(row & 0xFF), '\0', '\0'};
   }
   return bytes;
@@ -46,7 +47,7 @@ Bytes maskRows() {
 Bytes listed(int kind, int bits, const Bytes& picture) {
   Bytes bytes;
   for (const int field : {0, kind, 1}) put16(bytes, static_cast<unsigned>(field));
-  bytes += {static_cast<char>(Side), static_cast<char>(Side), '\0', '\0'};
+  bytes += {static_cast<char>(IconSide), static_cast<char>(IconSide), '\0', '\0'};
   put16(bytes, 1);
   put16(bytes, kind == 1 ? static_cast<unsigned>(bits) : 1);
   put32(bytes, static_cast<std::uint32_t>(picture.size()));
@@ -55,15 +56,15 @@ Bytes listed(int kind, int bits, const Bytes& picture) {
 }
 
 Bytes deepIcon(int kind, int bits, const Shade& fourth) {
-  return listed(
-      kind, bits,
-      bmpHeader(Side, 2 * Side, bits, 0, 0).substr(14) + rows(bits, colorful, fourth) + maskRows());
+  return listed(kind, bits,
+                bmpHeader(IconSide, 2 * IconSide, bits, 0, 0).substr(14) +
+                    rows(bits, iconColor, fourth) + maskRows());
 }
 
 /// A bitmap whose header names the fourth byte as well.
 Bytes alphaBmp(const Shade& fourth) {
   constexpr unsigned Header = 108;
-  Bytes bytes = bmpHeader(Side, Side, 32, 0, 4 * Side * Side), field;
+  Bytes bytes = bmpHeader(IconSide, IconSide, 32, 0, 4 * IconSide * IconSide), field;
   put32(field, 14 + Header);
   bytes.replace(10, 4, field);
   field.clear();
@@ -72,7 +73,7 @@ Bytes alphaBmp(const Shade& fourth) {
   bytes[30] = '\3';  // masks of its own
   for (const std::uint32_t mask : {0xFF0000u, 0xFF00u, 0xFFu, 0xFF000000u}) put32(bytes, mask);
   bytes.resize(14 + Header);
-  return bytes + rows(32, colorful, fourth);
+  return bytes + rows(32, iconColor, fourth);
 }
 
 }  // namespace
@@ -84,12 +85,12 @@ class LoadingIcons : public script::Stage {
     return LoadPicture(folder() + "/plaat");
   }
   static void expectSeen(const Picture& picture, const std::function<bool(int, int)>& through) {
-    ASSERT_EQ(picture.width(), Side);
-    ASSERT_EQ(picture.height(), Side);
+    ASSERT_EQ(picture.width(), IconSide);
+    ASSERT_EQ(picture.height(), IconSide);
     const auto seen = picture.over(Behind);
-    for (int y = 0; y < Side; ++y)
-      for (int x = 0; x < Side; ++x)
-        ASSERT_EQ(seen->at(x, y), through(x, y) ? Behind : 0xFF000000 | colorful(x, y))
+    for (int y = 0; y < IconSide; ++y)
+      for (int x = 0; x < IconSide; ++x)
+        ASSERT_EQ(seen->at(x, y), through(x, y) ? Behind : 0xFF000000 | iconColor(x, y))
             << x << ',' << y;
   }
 };
@@ -113,10 +114,10 @@ TEST_F(LoadingIcons, ABitmapThatWouldBeTransparentEverywhereShowsItsColours) {
 }
 
 TEST_F(LoadingIcons, APngInAnIconIsTaken) {
-  QImage image(Side, Side, QImage::Format_ARGB32);
-  for (int y = 0; y < Side; ++y)
-    for (int x = 0; x < Side; ++x)
-      image.setPixel(x, y, hole(x, y) ? 0 : 0xFF000000 | colorful(x, y));
+  QImage image(IconSide, IconSide, QImage::Format_ARGB32);
+  for (int y = 0; y < IconSide; ++y)
+    for (int x = 0; x < IconSide; ++x)
+      image.setPixel(x, y, hole(x, y) ? 0 : 0xFF000000 | iconColor(x, y));
   QByteArray png;
   QBuffer buffer(&png);
   buffer.open(QIODevice::WriteOnly);
