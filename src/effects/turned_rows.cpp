@@ -99,24 +99,6 @@ std::uint16_t signs(const std::int32_t* values) {
   return static_cast<std::uint16_t>(bits);
 }
 
-// All places first, then the pixels of a quarter after the other.
-template <Quarters quarters>
-void paintOneByOne(const TurnedRow& row, int first, int count, UnsurePlaces& unsure) {
-  const Shared shared(row, first, count);
-  std::array<std::int32_t, MostTurned> straight, swapped, doubts;
-  findAll(straight.data(), swapped.data(), doubts.data(), shared, first, count);
-  if constexpr ((quarters & Straight) != 0) {
-    copyAll<1>(straight.data(), row.source, row.targetBelow + first, count);
-    copyAll<-1>(straight.data(), row.source, row.targetAbove - first, count);
-  }
-  if constexpr ((quarters & Swapped) != 0) {
-    copyAll<1>(swapped.data(), row.source, row.targetAbove + first, count);
-    copyAll<-1>(swapped.data(), row.source, row.targetBelow - first, count);
-  }
-  for (std::size_t step = 0; step < stepsOf(count); ++step)
-    unsure[step] = signs(doubts.data() + firstOfStep(step, count));
-}
-
 #ifdef HAS_WIDE_VERSIONS
 #define WITH_GATHERS [[gnu::target("avx2")]]
 
@@ -168,6 +150,24 @@ const bool gathersFast = __builtin_cpu_supports("avxvnni") != 0;
 
 }  // namespace
 
+// All places first, then the pixels of a quarter after the other.
+template <Quarters quarters>
+void paintOneByOne(const TurnedRow& row, int first, int count, UnsurePlaces& unsure) {
+  const Shared shared(row, first, count);
+  std::array<std::int32_t, MostTurned> straight, swapped, doubts;
+  findAll(straight.data(), swapped.data(), doubts.data(), shared, first, count);
+  if constexpr ((quarters & Straight) != 0) {
+    copyAll<1>(straight.data(), row.source, row.targetBelow + first, count);
+    copyAll<-1>(straight.data(), row.source, row.targetAbove - first, count);
+  }
+  if constexpr ((quarters & Swapped) != 0) {
+    copyAll<1>(swapped.data(), row.source, row.targetAbove + first, count);
+    copyAll<-1>(swapped.data(), row.source, row.targetBelow - first, count);
+  }
+  for (std::size_t step = 0; step < stepsOf(count); ++step)
+    unsure[step] = signs(doubts.data() + firstOfStep(step, count));
+}
+
 template <Quarters quarters>
 void paintQuickly(const TurnedRow& row, int first, int count, UnsurePlaces& unsure) {
 #ifdef WITH_GATHERS
@@ -182,5 +182,8 @@ void paintQuickly(const TurnedRow& row, int first, int count, UnsurePlaces& unsu
 template void paintQuickly<Straight>(const TurnedRow&, int, int, UnsurePlaces&);
 template void paintQuickly<Swapped>(const TurnedRow&, int, int, UnsurePlaces&);
 template void paintQuickly<All>(const TurnedRow&, int, int, UnsurePlaces&);
+template void paintOneByOne<Straight>(const TurnedRow&, int, int, UnsurePlaces&);
+template void paintOneByOne<Swapped>(const TurnedRow&, int, int, UnsurePlaces&);
+template void paintOneByOne<All>(const TurnedRow&, int, int, UnsurePlaces&);
 
 }  // namespace effects

@@ -49,4 +49,9 @@ constexpr int TurnedLimit = 1447;
 template <Quarters quarters>
 void paintQuickly(const TurnedRow& row, int first, int count, UnsurePlaces& unsure);
 
+/// The same pixels, fetched one by one: what it does itself where the processor gathers slowly. It
+/// may report more places.
+template <Quarters quarters>
+void paintOneByOne(const TurnedRow& row, int first, int count, UnsurePlaces& unsure);
+
 }  // namespace effects
